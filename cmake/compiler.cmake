@@ -1,0 +1,21 @@
+# Every target of the project links tavrel_options: warnings are errors, and the sanitizers
+# have to be the same everywhere.
+add_library(tavrel_options INTERFACE)
+target_compile_features(tavrel_options INTERFACE cxx_std_20)
+
+if(MSVC)
+  target_compile_options(tavrel_options INTERFACE /W4 /WX /utf-8)
+else()
+  target_compile_options(tavrel_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+endif()
+
+if(TAVREL_SANITIZE)
+  target_compile_options(tavrel_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tavrel_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(TAVREL_FUZZ)
+  target_compile_options(tavrel_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()

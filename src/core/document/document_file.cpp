@@ -1,0 +1,135 @@
+#include "core/document/document_file.h"
+
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "core/text/file_names.h"
+#include "core/text/numbers.h"
+#include "core/text/run_time_error.h"
+#include "core/text/text_files.h"
+
+namespace tavrel {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+constexpr std::string_view kStoredLineBreak = "<p>";
+constexpr int kLastStoredMusicLink = 99;
+constexpr int kLastReadPage = 1000;
+
+std::string Replaced(std::string_view text, std::string_view from, std::string_view to) {
+  std::string result;
+  result.reserve(text.size());
+  std::size_t copied = 0;
+  for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from, copied)) {
+    result.append(text.substr(copied, at - copied)).append(to);
+    copied = at + from.size();
+  }
+  return result.append(text.substr(copied));
+}
+
+void AppendLine(std::string& text, int index, std::string_view record) {
+  text.append(PrintForm(index)).append(",").append(record).append(kLineEnd);
+}
+
+/// A line of the file, split at its first comma.
+struct StoredLine {
+  std::string_view Index;
+  std::string_view Record;
+};
+
+StoredLine Split(std::string_view line) {
+  const std::size_t comma = line.find(',');
+  const std::string_view index = line.substr(0, comma);
+  return {TrimBlanks(index), comma == std::string_view::npos ? std::string_view() : line.substr(comma + 1)};
+}
+
+int CheckedIndex(std::string_view field, int last) {
+  const int index = WholeValue(field);
+  if (index < 0 || index > last) {
+    throw RunTimeError("The document is damaged: it has an entry numbered " + std::to_string(index) +
+                       ", but only 0 to " + std::to_string(last) +
+                       " exist.\nRestore its backup (File > Restore) or repair it in a text editor.");
+  }
+  return index;
+}
+
+using Entries = std::vector<std::pair<int, std::string>>;
+
+Entries ReadMusicLinks(LineReader& lines) {
+  Entries music_links;
+  while (true) {
+    if (lines.AtEnd()) {
+      throw RunTimeError(
+          "The document is damaged: it ends before its pages.\n"
+          "Restore its backup (File > Restore) or repair it in a text editor.");
+    }
+    const StoredLine line = Split(lines.Next());
+    if (line.Index.empty()) return music_links;
+    music_links.emplace_back(CheckedIndex(line.Index, kLastMusicLink), line.Record);
+  }
+}
+
+Entries ReadPages(LineReader& lines) {
+  Entries pages;
+  while (!lines.AtEnd()) {
+    const StoredLine line = Split(lines.Next());
+    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage), Replaced(line.Record, kStoredLineBreak, kLineEnd));
+  }
+  return pages;
+}
+
+}  // namespace
+
+void LoadDocument(Global& global) {
+  const std::filesystem::path file = DocumentFile(global);
+  const std::string text = ReadWholeFile(file);
+  try {
+    ReadDocumentText(text, global);
+  } catch (const RunTimeError& error) {
+    throw RunTimeError(PathText(file) + "\n" + error.what());
+  }
+}
+
+void SaveDocument(const Global& global, Platform& platform) {
+  std::error_code error;
+  std::filesystem::current_path(global.ProgramFolder, error);
+  if (error) throw FileError(global.ProgramFolder, "could not be opened", error);
+  platform.WriteWholeFile(DocumentFile(global), DocumentText(global));
+}
+
+void DeleteDocument(const std::filesystem::path& folder, const std::filesystem::path& name) {
+  std::filesystem::path backup = WithoutExtension(name);
+  backup += ".bak";
+  for (const std::filesystem::path& file : {folder / name, folder / backup}) {
+    std::error_code error;
+    std::filesystem::remove(file, error);
+    if (error) throw FileError(file, "could not be deleted", error);
+  }
+}
+
+std::string DocumentText(const Global& global) {
+  std::size_t size = 0;
+  for (const std::string& page : global.Pages) size += page.size() + 16;
+  std::string text;
+  text.reserve(size + size / 64);
+
+  for (int link = 0; link <= kLastStoredMusicLink; ++link) {
+    if (!global.MusicLink(link).empty()) AppendLine(text, link, global.MusicLink(link));
+  }
+  text.append(kLineEnd);
+  for (int page = 0; page <= kLastPage; ++page) {
+    if (!global.Page(page).empty()) AppendLine(text, page, Replaced(global.Page(page), kLineEnd, kStoredLineBreak));
+  }
+  return text;
+}
+
+void ReadDocumentText(std::string_view text, Global& global) {
+  LineReader lines(text);
+  Entries music_links = ReadMusicLinks(lines);
+  Entries pages = ReadPages(lines);
+  for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
+  for (auto& [index, record] : pages) global.Page(index) = std::move(record);
+}
+
+}  // namespace tavrel

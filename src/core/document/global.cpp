@@ -1,0 +1,17 @@
+#include "core/document/global.h"
+
+#include "core/text/file_names.h"
+
+namespace tavrel {
+
+void ClearDocument(Global& global) {
+  for (int page = 1; page <= kLastPage; ++page) global.Page(page).clear();
+  for (int link = 1; link <= kLastMusicLink; ++link) global.MusicLink(link).clear();
+  global.IsDocumentShown = false;
+}
+
+std::filesystem::path DocumentFile(const Global& global) { return global.ProgramFolder / global.DocPath; }
+
+std::filesystem::path DocumentName(const Global& global) { return WithoutExtension(global.DocPath); }
+
+}  // namespace tavrel

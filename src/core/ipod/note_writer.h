@@ -1,0 +1,38 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "core/document/global.h"
+#include "core/platform.h"
+
+namespace tavrel {
+
+/// The choices of the Publish dialog.
+struct PublishOptions {
+  bool NotesMenuLink = false;    ///< end every note with a link back to the Notes menu
+  bool BackgroundMusic = false;  ///< choosing music does not leave the note
+};
+
+/// A page's text with its inline links as the device's anchors: the k-th "<" opens the page's k-th link and
+/// every ">" closes one. Text without "<", or whose first ">" comes before it, is returned unchanged.
+std::string GetText(const Global& global, std::string_view text, int page);
+
+/// The address of a music link on the device, from a reference such as "M7"; "\" (the Notes menu) if the
+/// reference is shorter than two characters or its record is empty. Throws RunTimeError for numbers outside
+/// 0 to 100.
+std::string GetMusic(const Global& global, std::string_view reference);
+
+/// The file name of a page's note: 7 is "z007.txt".
+std::string NoteName(int page);
+
+/// The bytes of a page's note file.
+std::string NoteText(const Global& global, int page, const PublishOptions& options);
+
+/// Writes one note file for each page that is not empty into the folder, which is made if need be. Files that
+/// no page rewrites stay. Throws FileError, and RunTimeError for an impossible music link.
+void PublishNotes(const Global& global, Platform& platform, const std::filesystem::path& folder,
+                  const PublishOptions& options);
+
+}  // namespace tavrel

@@ -1,0 +1,101 @@
+#include "core/text/file_names.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <system_error>
+#include <utility>
+
+namespace tavrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kEntryNameLength = 25;
+constexpr std::size_t kExtensionLength = 4;
+
+std::tm LocalTime(fs::file_time_type time) {
+  const auto system_time =
+      std::chrono::time_point_cast<std::chrono::seconds>(std::chrono::file_clock::to_sys(time));
+  const std::time_t seconds = system_time.time_since_epoch().count();
+  std::tm local{};
+#ifdef _WIN32
+  localtime_s(&local, &seconds);
+#else
+  localtime_r(&seconds, &local);
+#endif
+  return local;
+}
+
+bool HasExtension(std::string_view lower_name, std::string_view extension) {
+  return lower_name.size() >= extension.size() && lower_name.ends_with(extension);
+}
+
+}  // namespace
+
+std::string_view TrimBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string CleanName(std::string_view typed) {
+  std::string name(TrimBlanks(typed));
+  std::erase_if(name, [](char c) { return std::string_view("&\\/.?*").find(c) != std::string_view::npos; });
+  return name;
+}
+
+fs::path PathFromName(std::string_view name, const CodePage& code_page) { return {code_page.Decode(name)}; }
+
+std::string NameInCodePage(const fs::path& name, const CodePage& code_page) {
+  try {
+    return code_page.Encode(name.u32string());
+  } catch (const std::exception&) {
+    // Not valid text in the file system's encoding: keep what is plain.
+    std::string bytes = name.string();
+    std::replace_if(bytes.begin(), bytes.end(), [](char c) { return (c & '\x80') != 0; }, '?');
+    return bytes;
+  }
+}
+
+fs::path WithoutExtension(const fs::path& name) {
+  fs::path::string_type text = name.native();
+  text.resize(text.size() - std::min(text.size(), kExtensionLength));
+  return {text};
+}
+
+std::vector<FolderFile> ListFiles(const fs::path& folder, std::string_view extension, const CodePage& code_page) {
+  struct Found {
+    std::string SortKey;
+    FolderFile File;
+  };
+  std::vector<Found> found;
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    std::error_code file_error;
+    if (!entry->is_regular_file(file_error)) continue;
+    const fs::path name = entry->path().filename();
+    std::string key = code_page.Lower(NameInCodePage(name, code_page));
+    if (!HasExtension(key, extension)) continue;
+    const auto modified = entry->last_write_time(file_error);
+    if (!file_error) found.push_back({std::move(key), {name, LocalTime(modified)}});
+  }
+  std::sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
+    return std::tie(a.SortKey, a.File.Name.native()) < std::tie(b.SortKey, b.File.Name.native());
+  });
+
+  std::vector<FolderFile> files;
+  files.reserve(found.size());
+  for (Found& one : found) files.push_back(std::move(one.File));
+  return files;
+}
+
+std::string FileListEntry(std::string_view name, const std::tm& modified) {
+  std::string entry(name.substr(0, kEntryNameLength));
+  entry.resize(kEntryNameLength, ' ');
+  std::array<char, 16> date{};
+  const std::size_t length = std::strftime(date.data(), date.size(), "%d-%m-%y", &modified);
+  return entry.append(date.data(), length);
+}
+
+}  // namespace tavrel

@@ -1,0 +1,83 @@
+#include "core/text/numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <limits>
+
+namespace tavrel {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t SkipDigits(std::string_view text, std::size_t at) {
+  while (at < text.size() && IsDigit(text[at])) ++at;
+  return at;
+}
+
+bool IsSignAt(std::string_view text, std::size_t at) {
+  return at < text.size() && (text[at] == '+' || text[at] == '-');
+}
+
+/// The length of the longest unsigned number at the start of the text; 0 if there is none.
+std::size_t NumberLength(std::string_view text) {
+  const std::size_t whole = SkipDigits(text, 0);
+  std::size_t end = whole;
+  if (end < text.size() && text[end] == '.') end = SkipDigits(text, end + 1);
+  const bool only_point = end == 1 && text[0] == '.';
+  if (end == 0 || only_point) return 0;
+
+  if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
+    const std::size_t digits = end + (IsSignAt(text, end + 1) ? 2 : 1);
+    const std::size_t exponent_end = SkipDigits(text, digits);
+    if (exponent_end > digits) end = exponent_end;
+  }
+  return end;
+}
+
+}  // namespace
+
+std::string FormatPage(int number) {
+  std::array<char, 16> buffer{};
+  const int length = std::snprintf(buffer.data(), buffer.size(), "%03d", number);
+  return {buffer.data(), static_cast<std::size_t>(length)};
+}
+
+std::string MusicLinkName(int number) { return "M" + std::to_string(number); }
+
+double Value(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  const bool negative = !text.empty() && text.front() == '-';
+  if (IsSignAt(text, 0)) text.remove_prefix(1);
+  text = text.substr(0, NumberLength(text));
+
+  double value = 0;
+  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (parsed.ec == std::errc::result_out_of_range) value = std::numeric_limits<double>::max();
+  return negative ? -value : value;
+}
+
+std::int32_t WholeValue(std::string_view text) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  const double rounded = std::nearbyint(Value(text));
+  return static_cast<std::int32_t>(
+      std::clamp(rounded, static_cast<double>(Limits::min()), static_cast<double>(Limits::max())));
+}
+
+std::int16_t LeadingDigits(std::string_view text) {
+  std::uint16_t value = 0;
+  for (std::size_t i = 0; i < text.size() && IsDigit(text[i]); ++i) {
+    value = static_cast<std::uint16_t>(value * 10U + static_cast<unsigned>(text[i] - '0'));
+  }
+  return static_cast<std::int16_t>(value);
+}
+
+std::string SignedText(int number) {
+  return (number < 0 ? "" : " ") + std::to_string(number);
+}
+
+std::string PrintForm(int number) { return SignedText(number) + " "; }
+
+}  // namespace tavrel

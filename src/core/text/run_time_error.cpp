@@ -1,0 +1,35 @@
+#include "core/text/run_time_error.h"
+
+#include <algorithm>
+
+namespace tavrel {
+namespace {
+
+std::string NextStep(const std::error_code& error) {
+  if (error == std::errc::no_space_on_device) return "Make room on the disk or choose another one.";
+  if (error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+      error == std::errc::read_only_file_system) {
+    return "Make sure that you may write there, or choose another folder.";
+  }
+  if (error == std::errc::no_such_file_or_directory) return "Look whether the file or its folder was moved or renamed.";
+  if (error == std::errc::is_a_directory) return "A folder has that name. Rename it or choose another name.";
+  return "Check the disk and try again.";
+}
+
+}  // namespace
+
+FileError::FileError(const std::filesystem::path& file, const std::string& attempt, const std::error_code& error)
+    : RunTimeError(PathText(file) + "\n" + attempt + ": " + error.message() + ".\n" + NextStep(error)) {}
+
+std::string PathText(const std::filesystem::path& path) {
+  try {
+    const std::u8string text = std::filesystem::path(path.u32string()).u8string();
+    return {text.begin(), text.end()};
+  } catch (const std::exception&) {
+    std::string text = path.string();
+    std::replace_if(text.begin(), text.end(), [](char c) { return (c & '\x80') != 0; }, '?');
+    return text;
+  }
+}
+
+}  // namespace tavrel

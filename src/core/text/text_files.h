@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tavrel {
+
+/// All bytes of a file. Throws FileError.
+std::string ReadWholeFile(const std::filesystem::path& file);
+
+/// Splits the text of one of the program's own files into lines. A line ends at CR LF or LF; a lone CR is
+/// content. The last line may lack its end.
+class LineReader {
+ public:
+  explicit LineReader(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+
+  /// The next line without its end. Must not be called at the end of the text.
+  std::string_view Next();
+
+ private:
+  std::string_view rest_;
+};
+
+}  // namespace tavrel

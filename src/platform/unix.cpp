@@ -1,0 +1,104 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+#include "platform/file_layer.h"
+#include "platform/system_platform.h"
+#include "platform/unix_volumes.h"
+#include "platform/whole_file.h"
+
+namespace tavrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kPermissionBits = 07777;
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+std::error_code Result(int result) { return result < 0 ? LastError() : std::error_code(); }
+
+class UnixFiles final : public FileLayer {
+ public:
+  std::error_code CreateNew(const fs::path& file, const fs::path& like, int& handle) override {
+    handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
+    if (handle < 0) return LastError();
+    struct stat old {};
+    if (::stat(like.c_str(), &old) == 0) {
+      // Permissions are a courtesy: a file system without them is no obstacle.
+      [[maybe_unused]] const int ignored = ::fchmod(handle, old.st_mode & kPermissionBits);
+    }
+    return {};
+  }
+
+  std::error_code CreateOrEmpty(const fs::path& file, int& handle) override {
+    handle = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, kNewFileMode);
+    return Result(handle);
+  }
+
+  std::error_code Write(int handle, std::string_view bytes, std::size_t& written) override {
+    ssize_t count = -1;
+    do {
+      count = ::write(handle, bytes.data(), bytes.size());
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) return LastError();
+    written = static_cast<std::size_t>(count);
+    return {};
+  }
+
+  std::error_code Flush(int handle) override { return Result(::fsync(handle)); }
+
+  std::error_code Close(int handle) override { return Result(::close(handle)); }
+
+  std::error_code Replace(const fs::path& from, const fs::path& to) override {
+    return Result(::rename(from.c_str(), to.c_str()));
+  }
+
+  std::error_code FlushFolder(const fs::path& folder) override {
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return LastError();
+    const std::error_code error = Result(::fsync(handle));
+    ::close(handle);
+    return error;
+  }
+
+  std::error_code Remove(const fs::path& file) override { return Result(::unlink(file.c_str())); }
+};
+
+class UnixPlatform final : public Platform {
+ public:
+  const CodePage& SystemCodePage() const override { return CodePage::Windows1252(); }
+
+  std::vector<Volume> Volumes() const override { return MountedVolumes("/proc/self/mounts"); }
+
+  bool IsReady(const Volume& volume) const override {
+    std::error_code error;
+    const fs::directory_iterator entries(volume.Root, error);
+    return !error;
+  }
+
+  void WriteWholeFile(const fs::path& file, std::string_view bytes) override {
+    tavrel::WriteWholeFile(SystemFiles(), file, bytes);
+  }
+
+  void WritePlainFile(const fs::path& file, std::string_view bytes) override {
+    tavrel::WritePlainFile(SystemFiles(), file, bytes);
+  }
+};
+
+}  // namespace
+
+FileLayer& SystemFiles() {
+  static UnixFiles files;
+  return files;
+}
+
+std::unique_ptr<Platform> MakeSystemPlatform() { return std::make_unique<UnixPlatform>(); }
+
+}  // namespace tavrel

@@ -1,0 +1,94 @@
+#include "platform/whole_file.h"
+
+#include <random>
+#include <string>
+
+#include "core/text/run_time_error.h"
+
+namespace tavrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kNameTries = 100;
+
+/// Names of temporary files match no pattern of the program's file lists.
+fs::path TemporaryName(const fs::path& folder) {
+  static std::minstd_rand random{std::random_device{}()};
+  return folder / (".tavrel-" + std::to_string(random()) + ".tmp");
+}
+
+fs::path WhereLinkLeads(const fs::path& file) {
+  std::error_code error;
+  if (!fs::is_symlink(file, error)) return file;
+  const fs::path target = fs::canonical(file, error);
+  return error ? file : target;
+}
+
+std::error_code WriteAll(FileLayer& files, int handle, std::string_view bytes) {
+  while (!bytes.empty()) {
+    std::size_t written = 0;
+    if (const std::error_code error = files.Write(handle, bytes, written)) return error;
+    if (written == 0) return std::make_error_code(std::errc::io_error);
+    bytes.remove_prefix(written);
+  }
+  return {};
+}
+
+/// Closes the file whatever has happened before; the first error is the one that counts.
+std::error_code WriteAndClose(FileLayer& files, int handle, std::string_view bytes, bool flush) {
+  std::error_code error = WriteAll(files, handle, bytes);
+  if (!error && flush) error = files.Flush(handle);
+  const std::error_code close_error = files.Close(handle);
+  return error ? error : close_error;
+}
+
+std::error_code CreateTemporary(FileLayer& files, const fs::path& target, fs::path& temporary, int& handle) {
+  std::error_code error;
+  for (int tries = 0; tries < kNameTries; ++tries) {
+    temporary = TemporaryName(target.parent_path());
+    error = files.CreateNew(temporary, target, handle);
+    if (error != std::errc::file_exists) return error;
+  }
+  return error;
+}
+
+std::error_code ReplaceWhole(FileLayer& files, const fs::path& target, std::string_view bytes) {
+  std::error_code error;
+  if (fs::is_directory(target, error)) return std::make_error_code(std::errc::is_a_directory);
+
+  fs::path temporary;
+  int handle = -1;
+  error = CreateTemporary(files, target, temporary, handle);
+  if (error) return error;
+  error = WriteAndClose(files, handle, bytes, true);
+  if (!error) error = files.Replace(temporary, target);
+  if (error) {
+    files.Remove(temporary);
+    return error;
+  }
+  // The new file is in place. A folder that cannot be flushed (some network disks) is no reason to call the
+  // save failed.
+  files.FlushFolder(target.parent_path());
+  return {};
+}
+
+}  // namespace
+
+void WriteWholeFile(FileLayer& files, const fs::path& file, std::string_view bytes) {
+  if (const std::error_code error = ReplaceWhole(files, WhereLinkLeads(fs::absolute(file)), bytes)) {
+    throw FileError(file, "could not be written", error);
+  }
+}
+
+void WritePlainFile(FileLayer& files, const fs::path& file, std::string_view bytes) {
+  int handle = -1;
+  std::error_code error = files.CreateOrEmpty(file, handle);
+  if (!error) {
+    error = WriteAndClose(files, handle, bytes, false);
+    if (error) files.Remove(file);
+  }
+  if (error) throw FileError(file, "could not be written", error);
+}
+
+}  // namespace tavrel

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/document/global.h"
+#include "core/platform.h"
+
+namespace tavrel {
+
+class MessageService;
+class ProgramControl;
+
+/// What every window works with. `main` makes one; a test makes its own.
+struct App {
+  Global& State;
+  Platform& System;
+  MessageService& Messages;
+  ProgramControl& Control;
+
+  const CodePage& CodePageInUse() const { return System.SystemCodePage(); }
+};
+
+}  // namespace tavrel

@@ -1,0 +1,99 @@
+#include "ui/controls/body_field.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+#include <memory>
+
+#include "ui/controls/text_conversion.h"
+
+namespace tavrel {
+namespace {
+
+constexpr QChar kLineFeed = u'\n';
+
+// The text box takes a lone CR or LF for a line break of its own, so it is given their pictures instead, which
+// no code page holds.
+constexpr QChar kPictureOfCr = u'\u240D';
+constexpr QChar kPictureOfLf = u'\u240A';
+
+QString ShownText(std::string_view bytes, const CodePage& code_page) {
+  QString text = ToText(bytes, code_page);
+  text.replace("\r\n", QString(QChar::ParagraphSeparator));
+  text.replace(u'\r', kPictureOfCr);
+  text.replace(u'\n', kPictureOfLf);
+  return text;
+}
+
+QString WithoutPictures(QString text) {
+  text.replace(kPictureOfCr, u'\r');
+  text.replace(kPictureOfLf, u'\n');
+  return text;
+}
+
+}  // namespace
+
+BodyField::BodyField(QWidget* parent) : QPlainTextEdit(parent), code_page_(&CodePage::Windows1252()) {}
+
+std::string BodyField::Bytes() const {
+  // The document's own plain text would turn no-break spaces into blanks.
+  std::string bytes;
+  bytes.reserve(static_cast<std::size_t>(Length()));
+  for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockNumber() > 0) bytes += "\r\n";
+    bytes += ToBytes(WithoutPictures(block.text()), *code_page_);
+  }
+  return bytes;
+}
+
+void BodyField::SetBytes(std::string_view bytes) { setPlainText(ShownText(bytes, *code_page_)); }
+
+int BodyField::Length() const { return document()->characterCount() - 1 + document()->blockCount() - 1; }
+
+void BodyField::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::InsertLineSeparator)) {
+    textCursor().insertBlock();
+    ensureCursorVisible();
+  } else if (!event->text().isEmpty() && event->text().at(0).isPrint() &&
+             !IsFit(event->text(), *code_page_, kLineFeed)) {
+    InsertFitted(event->text());
+  } else {
+    QPlainTextEdit::keyPressEvent(event);
+  }
+}
+
+void BodyField::inputMethodEvent(QInputMethodEvent* event) {
+  if (IsFit(event->commitString(), *code_page_, kLineFeed)) {
+    QPlainTextEdit::inputMethodEvent(event);
+    return;
+  }
+  const FittedText fitted = Fit(event->commitString(), *code_page_, kLineFeed);
+  QInputMethodEvent fitted_event(event->preeditString(), event->attributes());
+  fitted_event.setCommitString(fitted.Text, event->replacementStart(), event->replacementLength());
+  QPlainTextEdit::inputMethodEvent(&fitted_event);
+  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+}
+
+void BodyField::insertFromMimeData(const QMimeData* source) {
+  if (source->hasText()) InsertFitted(source->text());
+}
+
+bool BodyField::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
+
+QMimeData* BodyField::createMimeDataFromSelection() const {
+  QString text = textCursor().selectedText();
+  text.replace(QChar::ParagraphSeparator, kLineFeed);
+  auto mime = std::make_unique<QMimeData>();
+  mime->setText(WithoutPictures(text));
+  return mime.release();
+}
+
+void BodyField::InsertFitted(const QString& text) {
+  const FittedText fitted = Fit(text, *code_page_, kLineFeed);
+  textCursor().insertText(fitted.Text);
+  ensureCursorVisible();
+  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+}
+
+}  // namespace tavrel

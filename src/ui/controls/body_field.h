@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPlainTextEdit>
+#include <string>
+#include <string_view>
+
+#include "core/text/code_page.h"
+
+namespace tavrel {
+
+/// The many-line text field over bytes of the code page. Line breaks are CR LF in the bytes and count as two
+/// characters; every other byte, also a lone CR or LF, comes back as it went in. What enters is made fit as in
+/// LineField.
+class BodyField : public QPlainTextEdit {
+  Q_OBJECT
+
+ public:
+  explicit BodyField(QWidget* parent = nullptr);
+
+  void SetCodePage(const CodePage& code_page) { code_page_ = &code_page; }
+
+  std::string Bytes() const;
+  void SetBytes(std::string_view bytes);
+
+  /// The number of bytes, without building them.
+  int Length() const;
+
+ signals:
+  /// Characters that the code page does not hold became "?".
+  void CharactersReplaced(int count);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
+  bool canInsertFromMimeData(const QMimeData* source) const override;
+  QMimeData* createMimeDataFromSelection() const override;
+
+ private:
+  void InsertFitted(const QString& text);
+
+  const CodePage* code_page_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,29 @@
+#include "ui/controls/dialog.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+
+#include "ui/controls/file_list.h"
+#include "ui/controls/line_field.h"
+
+namespace tavrel {
+
+Dialog::Dialog(App& app, QWidget* parent) : QDialog(parent), app_(app) {}
+
+void Dialog::PrepareControls() {
+  for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
+  for (LineField* field : findChildren<LineField*>()) field->SetCodePage(app_.CodePageInUse());
+  for (FileList* list : findChildren<FileList*>()) list->SetCodePage(app_.CodePageInUse());
+}
+
+void Dialog::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  auto* button = qobject_cast<QPushButton*>(focusWidget());
+  if (enter && button != nullptr) {
+    button->click();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+}  // namespace tavrel

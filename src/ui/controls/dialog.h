@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QDialog>
+
+#include "ui/app.h"
+
+namespace tavrel {
+
+/// What the dialogs share. Enter acts only where a dialog says so: on the button that has the focus, and in
+/// fields whose handlers ask for it. Esc and the window's frame close a dialog as Cancel does.
+class Dialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  Dialog(App& app, QWidget* parent);
+
+ protected:
+  /// To be called once the form's controls exist.
+  void PrepareControls();
+
+  void keyPressEvent(QKeyEvent* event) override;
+
+  App& app_;  // NOLINT(readability-identifier-naming): every dialog works with it
+};
+
+}  // namespace tavrel

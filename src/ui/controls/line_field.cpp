@@ -1,0 +1,100 @@
+#include "ui/controls/line_field.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <memory>
+
+#include "ui/controls/focus.h"
+#include "ui/controls/text_conversion.h"
+
+namespace tavrel {
+namespace {
+
+constexpr QChar kBlank = u' ';
+
+}  // namespace
+
+LineField::LineField(QWidget* parent) : QLineEdit(parent), code_page_(&CodePage::Windows1252()) {}
+
+std::string LineField::Bytes() const { return ToBytes(text(), *code_page_); }
+
+void LineField::SetBytes(std::string_view bytes) {
+  setText(ToText(bytes, *code_page_));
+  setCursorPosition(0);
+}
+
+void LineField::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Paste)) {
+    PasteFitted();
+  } else if (!event->text().isEmpty() && event->text().at(0).isPrint() && !IsFitForField(event->text())) {
+    InsertFitted(event->text());
+  } else {
+    QLineEdit::keyPressEvent(event);
+  }
+}
+
+void LineField::inputMethodEvent(QInputMethodEvent* event) {
+  if (IsFitForField(event->commitString())) {
+    QLineEdit::inputMethodEvent(event);
+    return;
+  }
+  const FittedText fitted = Fit(event->commitString(), *code_page_, kBlank);
+  QInputMethodEvent fitted_event(event->preeditString(), event->attributes());
+  fitted_event.setCommitString(fitted.Text, event->replacementStart(), event->replacementLength());
+  QLineEdit::inputMethodEvent(&fitted_event);
+  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+}
+
+void LineField::mouseReleaseEvent(QMouseEvent* event) {
+  QClipboard* clipboard = QApplication::clipboard();
+  if (event->button() != Qt::MiddleButton || !clipboard->supportsSelection() || isReadOnly()) {
+    QLineEdit::mouseReleaseEvent(event);
+    return;
+  }
+  const QString selection = clipboard->text(QClipboard::Selection);
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  InsertFitted(selection);
+}
+
+void LineField::dropEvent(QDropEvent* event) {
+  if (IsFitForField(event->mimeData()->text())) {
+    QLineEdit::dropEvent(event);
+    return;
+  }
+  setCursorPosition(cursorPositionAt(event->position().toPoint()));
+  InsertFitted(event->mimeData()->text());
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+}
+
+void LineField::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(createStandardContextMenu());
+  if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
+    paste->disconnect(this);
+    connect(paste, &QAction::triggered, this, &LineField::PasteFitted);
+  }
+  menu->exec(event->globalPos());
+}
+
+void LineField::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (IsFocusLost(*event)) emit LostFocus();
+}
+
+bool LineField::IsFitForField(const QString& text) const { return IsFit(text, *code_page_, kBlank); }
+
+void LineField::InsertFitted(const QString& text) {
+  const FittedText fitted = Fit(text, *code_page_, kBlank);
+  insert(fitted.Text);
+  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+}
+
+void LineField::PasteFitted() { InsertFitted(QApplication::clipboard()->text()); }
+
+}  // namespace tavrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QLineEdit>
+#include <string>
+#include <string_view>
+
+#include "core/text/code_page.h"
+
+namespace tavrel {
+
+/// A one-line text field over bytes of the code page. What is typed, pasted or dropped is made fit as it
+/// enters: characters outside the code page become "?", line breaks become blanks. A line break that a
+/// loaded text holds already stays.
+class LineField : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  explicit LineField(QWidget* parent = nullptr);
+
+  void SetCodePage(const CodePage& code_page) { code_page_ = &code_page; }
+
+  std::string Bytes() const;
+  void SetBytes(std::string_view bytes);
+
+ signals:
+  /// The focus has gone to another control (not to a menu or another window).
+  void LostFocus();
+  /// Characters that the code page does not hold became "?".
+  void CharactersReplaced(int count);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  bool IsFitForField(const QString& text) const;
+  void InsertFitted(const QString& text);
+  void PasteFitted();
+
+  const CodePage* code_page_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QObject>
+#include <exception>
+#include <functional>
+#include <type_traits>
+#include <utility>
+
+namespace tavrel {
+
+/// How handlers run and how the program ends.
+class ProgramControl {
+ public:
+  virtual ~ProgramControl() = default;
+
+  /// Runs a handler. An error that it does not handle goes to Fail; none passes through the toolkit.
+  void Run(const std::function<void()>& handler) noexcept;
+
+  /// Ends the program with a run-time error.
+  virtual void Fail(const std::exception& error) = 0;
+
+  /// Ends the program at once: no further event runs and no window is asked.
+  virtual void End() = 0;
+};
+
+/// Runs `handler`, a function of the signal's arguments or of none, under `control` at every `signal`.
+template <typename Sender, typename Signal, typename Handler>
+void On(ProgramControl& control, const Sender* sender, Signal signal, QObject* receiver, Handler handler) {
+  QObject::connect(sender, signal, receiver, [&control, handler](auto&&... arguments) {
+    control.Run([&] {
+      if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>) {
+        handler(std::forward<decltype(arguments)>(arguments)...);
+      } else {
+        handler();
+      }
+    });
+  });
+}
+
+}  // namespace tavrel

@@ -1,0 +1,19 @@
+#include "ui/document/name_check.h"
+
+#include "core/shell/messages.h"
+#include "core/text/file_names.h"
+#include "ui/controls/message_box.h"
+
+namespace tavrel {
+
+std::filesystem::path AskForDocumentFile(App& app, QWidget* parent, std::string_view typed) {
+  const std::string name = CleanName(typed);
+  if (name.empty()) return {};
+  const std::filesystem::path file = PathFromName(name + ".dat", app.CodePageInUse());
+  std::error_code error;
+  const bool exists = std::filesystem::exists(app.State.ProgramFolder / file, error);
+  if (exists && !app.Messages.Show(parent, messages::FileExists())) return {};
+  return file;
+}
+
+}  // namespace tavrel

@@ -1,0 +1,65 @@
+#include "ui/ipod/publish.h"
+
+#include "core/ipod/note_writer.h"
+#include "core/shell/messages.h"
+#include "core/text/file_names.h"
+#include "core/text/run_time_error.h"
+#include "ui/controls/hourglass.h"
+#include "ui/controls/message_box.h"
+#include "ui/controls/program_control.h"
+#include "ui_publish.h"
+
+namespace tavrel {
+
+Publish::Publish(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::Publish>()) {
+  ui_->setupUi(this);
+  PrepareControls();
+  On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+  On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+  On(app_.Control, ui_->Drive1, &DriveList::Change, this, [this] { Drive1_Change(); });
+  On(app_.Control, ui_->Dir1, &FolderList::Change, this, [this] { Dir1_Change(); });
+  Form_Load();
+}
+
+Publish::~Publish() = default;
+
+void Publish::Form_Load() {
+  const std::filesystem::path& folder = app_.State.ProgramFolder;
+  ui_->Drive1->SetVolumes(app_.System.Volumes());
+  ui_->Drive1->SetDriveOf(folder);
+  ui_->Dir1->SetPath(folder);
+  ui_->File1->SetPath(folder);
+  ui_->Text1->SetBytes(NameInCodePage(DocumentName(app_.State), app_.CodePageInUse()));
+}
+
+void Publish::Drive1_Change() {
+  const Volume& drive = ui_->Drive1->Drive();
+  if (app_.System.IsReady(drive) && ui_->Dir1->SetPath(drive.Root)) {
+    ui_->File1->SetPath(drive.Root);
+    return;
+  }
+  app_.Messages.Show(this, messages::DriveNotAvailable(drive.Name));
+  ui_->Drive1->SetDriveOf(ui_->File1->Path());
+}
+
+void Publish::Dir1_Change() { ui_->File1->SetPath(ui_->Dir1->Path()); }
+
+void Publish::Command1_Click() { reject(); }
+
+void Publish::Command2_Click() {
+  const std::string name = CleanName(ui_->Text1->Bytes());
+  if (name.empty()) return;
+  const PublishOptions options{.NotesMenuLink = ui_->Check1->isChecked(),
+                               .BackgroundMusic = ui_->Check2->isChecked()};
+  try {
+    const Hourglass hourglass;
+    PublishNotes(app_.State, app_.System, ui_->Dir1->Path() / PathFromName(name, app_.CodePageInUse()), options);
+  } catch (const FileError& error) {
+    app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, "Publish"});
+    return;
+  }
+  app_.Messages.Show(this, messages::PublishFinished());
+  accept();
+}
+
+}  // namespace tavrel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+
+#include "ui/controls/dialog.h"
+
+namespace Ui {
+class Publish;
+}
+
+namespace tavrel {
+
+/// Publishes the document as a folder of note files.
+class Publish : public Dialog {
+  Q_OBJECT
+
+ public:
+  Publish(App& app, QWidget* parent);
+  ~Publish() override;
+
+ public slots:
+  void Form_Load();
+  void Command1_Click();
+  void Command2_Click();
+  void Drive1_Change();
+  void Dir1_Change();
+
+ private:
+  std::unique_ptr<Ui::Publish> ui_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,36 @@
+#pragma once
+
+namespace tavrel {
+
+/// The editor as the commands know it.
+class Editor {
+ public:
+  virtual ~Editor() = default;
+
+  /// Reads the open document's file, fills the pages grid and shows page 1. Throws RunTimeError.
+  virtual void LoadDoc() = 0;
+  /// Shows a page, 1 to 999, in the fields; link row 1 becomes current.
+  virtual void LoadPage(int page) = 0;
+  /// Rebuilds the current page's record from the fields and the links grid; the focus goes to the body.
+  virtual void SavePage() = 0;
+
+  /// Empty a grid and set its headings.
+  virtual void ClearGrid1() = 0;
+  virtual void ClearGrid2() = 0;
+  /// Copies the link entry fields into the current row of the links grid.
+  virtual void UpdateGrid1() = 0;
+  /// Copies title and note into the current row of the pages grid.
+  virtual void UpdateGrid2() = 0;
+  /// Rewrites titles and notes of all rows of the pages grid.
+  virtual void RefreshGrid2() = 0;
+
+  /// The two states of the window: a document is open, or the cover hides the editor.
+  virtual void ShowControls() = 0;
+  virtual void HideControls() = 0;
+  /// Writes the open document's name above the pages grid.
+  virtual void ShowDocumentName() = 0;
+  /// Takes the document's name out of the window's caption.
+  virtual void ResetCaption() = 0;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,197 @@
+#include "ui/main/main_window.h"
+
+#include <QCloseEvent>
+#include <QTimer>
+
+#include "core/document/document_file.h"
+#include "core/shell/messages.h"
+#include "core/shell/settings.h"
+#include "ui/controls/program_control.h"
+#include "ui/controls/text_conversion.h"
+#include "ui/document/file_menu.h"
+#include "ui/ipod/tools_commands.h"
+#include "ui/main/field_notices.h"
+#include "ui/main/page_editor.h"
+#include "ui/main/page_grids.h"
+#include "ui/shell/help_menu.h"
+#include "ui/shell/skin_pictures.h"
+#include "ui_main_window.h"
+
+namespace tavrel {
+namespace {
+
+constexpr int kTimer1Interval = 1000;
+
+}  // namespace
+
+Main::Main(App& app)
+    : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new QTimer(this)) {
+  ui_->setupUi(this);
+  timer1_->setObjectName("Timer1");
+  timer1_->setInterval(kTimer1Interval);
+
+  grids_ = std::make_unique<PageGrids>(app_, *ui_);
+  page_ = std::make_unique<PageEditor>(app_, *ui_);
+  skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->Background);
+  notices_ = std::make_unique<FieldNotices>(*ui_);
+  file_menu_ = std::make_unique<FileMenu>(app_, *this, this);
+  tools_ = std::make_unique<ToolsCommands>(app_, *this, this);
+  help_menu_ = std::make_unique<HelpMenu>(app_, *skins_, this);
+  ConnectFields();
+  ConnectMenus();
+
+  ClearGrid1();
+  ClearGrid2();
+  HideControls();
+}
+
+Main::~Main() = default;
+
+void Main::ConnectFields() {
+  ProgramControl& control = app_.Control;
+  On(control, ui_->MSFlexGrid1, &Grid::Click, this, [this](int row) { MSFlexGrid1_Click(row); });
+  On(control, ui_->MSFlexGrid2, &Grid::Click, this, [this](int row) { MSFlexGrid2_Click(row); });
+  On(control, ui_->Text3, &LineField::returnPressed, this, [this] { Text3_KeyPress(); });
+  On(control, ui_->Text3, &LineField::LostFocus, this, [this] { Text3_LostFocus(); });
+  On(control, ui_->Text4, &LineField::returnPressed, this, [this] { Text4_KeyPress(); });
+  On(control, ui_->Text4, &LineField::LostFocus, this, [this] { Text4_LostFocus(); });
+  On(control, ui_->Text5, &LineField::returnPressed, this, [this] { Text5_KeyPress(); });
+  On(control, ui_->Text5, &LineField::LostFocus, this, [this] { Text5_LostFocus(); });
+  const LineField* target = &ui_->Combo1->Field();
+  On(control, target, &LineField::returnPressed, this, [this] { Combo1_KeyPress(); });
+  On(control, target, &LineField::LostFocus, this, [this] { Combo1_LostFocus(); });
+  On(control, timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+}
+
+void Main::ConnectMenus() {
+  const auto run = [this](const QAction* item, auto& menu, auto handler) {
+    On(app_.Control, item, &QAction::triggered, this, [&menu, handler] { (menu.*handler)(); });
+  };
+  run(ui_->FileNew, *file_menu_, &FileMenu::FileNew_Click);
+  run(ui_->FileOpen, *file_menu_, &FileMenu::FileOpen_Click);
+  run(ui_->FileSave, *file_menu_, &FileMenu::FileSave_Click);
+  run(ui_->FileSaveAs, *file_menu_, &FileMenu::FileSaveAs_Click);
+  run(ui_->FileClose, *file_menu_, &FileMenu::FileClose_Click);
+  run(ui_->FileDelete, *file_menu_, &FileMenu::FileDelete_Click);
+  run(ui_->FileExit, *file_menu_, &FileMenu::FileExit_Click);
+  run(ui_->ToolsPublish, *tools_, &ToolsCommands::ToolsPublish_Click);
+  run(ui_->HelpCustomise, *help_menu_, &HelpMenu::HelpCustomise_Click);
+}
+
+void Main::Form_Load() {
+  LoadSettings(app_.State, app_.System);
+  skins_->LoadAtStart();
+  ui_->EditMenu->menuAction()->setEnabled(false);
+  app_.State.DocPath.clear();
+  app_.State.FindText.clear();
+  timer1_->start();
+}
+
+void Main::closeEvent(QCloseEvent* event) {
+  event->accept();
+  app_.Control.Run([this] { Form_QueryUnload(); });
+}
+
+void Main::Form_QueryUnload() { emit Closed(); }
+
+void Main::LoadDoc() {
+  LoadDocument(app_.State);
+  grids_->FillPages();
+  app_.State.CurrentPage = 1;
+  LoadPage(1);
+  ui_->MSFlexGrid2->scrollToTop();
+  app_.State.IsDocumentShown = true;
+}
+
+void Main::LoadPage(int page) {
+  const PageFields fields = ReadPage(app_.State.Page(page));
+  page_->ShowFields(fields);
+  grids_->ShowLinks(fields);
+  page_->FillTargets();
+  page_->ShowMusicLink(fields);
+  grids_->SelectLink(1);
+  page_->ShowLink(fields.Links.front());
+  app_.State.CurrentLink = 1;
+  grids_->SelectPage(page);
+}
+
+void Main::SavePage() {
+  UpdateGrid2();
+  std::string& record = app_.State.Page(app_.State.CurrentPage);
+  record.clear();
+  PageFields fields = page_->TypedFields();
+  fields.Links = grids_->Links();
+  record = BuildPage(fields, app_.CodePageInUse());
+  UpdateGrid2();
+  ui_->Text1->setFocus();
+}
+
+void Main::StoreTyped() {
+  if (!app_.State.IsDocumentShown) return;
+  UpdateGrid1();
+  SavePage();
+}
+
+void Main::ClearGrid1() { grids_->ClearLinks(); }
+
+void Main::ClearGrid2() { grids_->ClearPages(); }
+
+void Main::UpdateGrid1() { grids_->StoreLink(page_->TypedLink()); }
+
+void Main::UpdateGrid2() { grids_->StorePage(ui_->Text3->Bytes(), ui_->Text4->Bytes()); }
+
+void Main::RefreshGrid2() { grids_->RefreshPages(); }
+
+void Main::ShowControls() {
+  ui_->Cover->setCurrentWidget(ui_->Background);
+  ui_->EditMenu->menuAction()->setEnabled(true);
+  statusBar()->show();
+}
+
+void Main::HideControls() {
+  ui_->Cover->setCurrentWidget(ui_->Picture1);
+  ui_->EditMenu->menuAction()->setEnabled(false);
+  statusBar()->hide();
+}
+
+void Main::ShowDocumentName() {
+  const QString name = ToText(DocumentName(app_.State));
+  ui_->Label7->setText(name);
+  setWindowTitle(name + " - " + kProgramName.data());
+}
+
+void Main::ResetCaption() { setWindowTitle(kProgramName.data()); }
+
+void Main::MSFlexGrid1_Click(int row) {
+  UpdateGrid1();
+  page_->ShowLink(grids_->LinkAt(row));
+  grids_->SelectLink(row);
+  app_.State.CurrentLink = static_cast<std::int16_t>(row);
+  ui_->Text5->setFocus();
+}
+
+void Main::MSFlexGrid2_Click(int row) {
+  SavePage();
+  app_.State.CurrentPage = static_cast<std::int16_t>(row);
+  LoadPage(row);
+}
+
+void Main::Text3_KeyPress() { UpdateGrid2(); }
+
+void Main::Text3_LostFocus() { UpdateGrid2(); }
+
+void Main::Text4_KeyPress() { UpdateGrid2(); }
+
+void Main::Text4_LostFocus() { UpdateGrid2(); }
+
+void Main::Text5_KeyPress() { UpdateGrid1(); }
+
+void Main::Text5_LostFocus() { UpdateGrid1(); }
+
+void Main::Combo1_KeyPress() { UpdateGrid1(); }
+
+void Main::Combo1_LostFocus() { UpdateGrid1(); }
+
+void Main::Timer1_Timer() { ui_->LengthBar->SetWidth(ui_->Text1->Length()); }
+
+}  // namespace tavrel

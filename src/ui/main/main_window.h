@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QMainWindow>
+#include <memory>
+
+#include "ui/app.h"
+#include "ui/main/editor.h"
+
+class QTimer;
+
+namespace Ui {
+class Main;
+}
+
+namespace tavrel {
+
+class FieldNotices;
+class FileMenu;
+class HelpMenu;
+class PageEditor;
+class PageGrids;
+class SkinPictures;
+class ToolsCommands;
+
+/// The program's editor window.
+class Main : public QMainWindow, public Editor {
+  Q_OBJECT
+
+ public:
+  explicit Main(App& app);
+  ~Main() override;
+
+  void LoadDoc() override;
+  void LoadPage(int page) override;
+  void SavePage() override;
+  void ClearGrid1() override;
+  void ClearGrid2() override;
+  void UpdateGrid1() override;
+  void UpdateGrid2() override;
+  void RefreshGrid2() override;
+  void ShowControls() override;
+  void HideControls() override;
+  void ShowDocumentName() override;
+  void ResetCaption() override;
+
+  /// Brings everything typed in the fields into the current page's record, whatever has the focus.
+  void StoreTyped();
+
+ public slots:
+  /// Start-up: settings, skins and the state without a document. Throws RunTimeError.
+  void Form_Load();
+  void Form_QueryUnload();
+
+  void MSFlexGrid1_Click(int row);
+  void MSFlexGrid2_Click(int row);
+  void Text3_KeyPress();
+  void Text3_LostFocus();
+  void Text4_KeyPress();
+  void Text4_LostFocus();
+  void Text5_KeyPress();
+  void Text5_LostFocus();
+  void Combo1_KeyPress();
+  void Combo1_LostFocus();
+  void Timer1_Timer();
+
+ signals:
+  /// The window was closed by its frame; the program ends with it.
+  void Closed();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void ConnectFields();
+  void ConnectMenus();
+
+  App& app_;
+  std::unique_ptr<Ui::Main> ui_;
+  std::unique_ptr<PageGrids> grids_;
+  std::unique_ptr<PageEditor> page_;
+  std::unique_ptr<SkinPictures> skins_;
+  std::unique_ptr<FieldNotices> notices_;
+  std::unique_ptr<FileMenu> file_menu_;
+  std::unique_ptr<ToolsCommands> tools_;
+  std::unique_ptr<HelpMenu> help_menu_;
+  QTimer* timer1_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,59 @@
+#include "ui/main/page_editor.h"
+
+#include <QStringList>
+
+#include "core/text/file_names.h"
+#include "core/text/numbers.h"
+#include "ui_main_window.h"
+
+namespace tavrel {
+
+PageEditor::PageEditor(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
+  for (LineField* field : {ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6}) field->SetCodePage(app_.CodePageInUse());
+  ui_.Text1->SetCodePage(app_.CodePageInUse());
+  ui_.Combo1->SetCodePage(app_.CodePageInUse());
+  ui_.Combo2->SetCodePage(app_.CodePageInUse());
+}
+
+void PageEditor::ShowFields(const PageFields& fields) {
+  ui_.Text1->SetBytes(fields.Body);
+  ui_.Text3->SetBytes(fields.Title);
+  ui_.Text4->SetBytes(fields.Note);
+  ui_.Text6->SetBytes(fields.MusicText);
+}
+
+void PageEditor::ShowMusicLink(const PageFields& fields) { ui_.Combo2->SetBytes(fields.MusicLink); }
+
+void PageEditor::ShowLink(const Link& link) {
+  ui_.Text5->SetBytes(link.Text);
+  ui_.Combo1->SetBytes(link.Target);
+}
+
+void PageEditor::FillTargets() {
+  QStringList pages;
+  for (int page = 1; page <= kLastPage; ++page) {
+    if (!app_.State.Page(page).empty()) pages << QString::fromStdString(FormatPage(page));
+  }
+  QStringList music_links;
+  for (int link = 1; link <= kLastMusicLink; ++link) {
+    if (!app_.State.MusicLink(link).empty()) music_links << QString::fromStdString(MusicLinkName(link));
+  }
+  ui_.Combo1->SetItems(pages + music_links);
+  ui_.Combo2->SetItems(music_links);
+}
+
+PageFields PageEditor::TypedFields() const {
+  PageFields fields;
+  fields.Title = ui_.Text3->Bytes();
+  fields.Note = ui_.Text4->Bytes();
+  fields.Body = ui_.Text1->Bytes();
+  fields.MusicText = ui_.Text6->Bytes();
+  fields.MusicLink = ui_.Combo2->Bytes();
+  return fields;
+}
+
+Link PageEditor::TypedLink() const {
+  return {std::string(TrimBlanks(ui_.Text5->Bytes())), std::string(TrimBlanks(ui_.Combo1->Bytes()))};
+}
+
+}  // namespace tavrel

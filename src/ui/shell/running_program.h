@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+
+#include "core/document/global.h"
+#include "core/platform.h"
+#include "ui/controls/program_control.h"
+
+namespace tavrel {
+
+class MessageService;
+
+/// Ends the real program.
+class RunningProgram final : public ProgramControl {
+ public:
+  RunningProgram(Global& global, Platform& platform, MessageService& messages);
+
+  /// `store` brings what is typed but not yet stored into the document; Fail runs it first.
+  void SetStoreTyped(std::function<void()> store) { store_typed_ = std::move(store); }
+
+  /// Saves the open document beside its own file, or else in the home or the temporary folder, says what
+  /// failed and where the copy is, and ends the program with status 1.
+  [[noreturn]] void Fail(const std::exception& error) override;
+
+  [[noreturn]] void End() override;
+
+ private:
+  /// A sentence on where the copy is; empty if there was nothing to rescue.
+  std::string Rescue();
+
+  Global& global_;
+  Platform& platform_;
+  MessageService& messages_;
+  std::function<void()> store_typed_;
+};
+
+}  // namespace tavrel

@@ -1,0 +1,65 @@
+#include "ui/shell/start.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QStandardPaths>
+
+#include "core/shell/messages.h"
+#include "core/shell/program_folder.h"
+#include "platform/system_platform.h"
+#include "ui/app.h"
+#include "ui/controls/message_box.h"
+#include "ui/controls/text_conversion.h"
+#include "ui/main/main_window.h"
+#include "ui/shell/running_program.h"
+
+// Resources of a static library have to be asked for, outside any namespace.
+static void InitResources() { Q_INIT_RESOURCE(tavrel); }
+
+namespace tavrel {
+namespace {
+
+constexpr const char* kSampleProject = "Writing for the iPod.dat";
+
+void InstallSampleProject(const Global& global, Platform& platform) {
+  QFile sample(QString(":/sample/") + kSampleProject);
+  if (!sample.open(QIODevice::ReadOnly)) return;
+  platform.WriteWholeFile(global.ProgramFolder / kSampleProject, sample.readAll().toStdString());
+}
+
+void OpenProgramFolder(Global& global, Platform& platform) {
+  global.ProgramFolder =
+      FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
+                        ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
+  const bool first_start = EnterProgramFolder(global.ProgramFolder);
+  if (first_start) InstallSampleProject(global, platform);
+}
+
+}  // namespace
+
+int RunTavrelWriter(QApplication& application) {
+  QApplication::setApplicationName(kProgramName.data());
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  InitResources();
+  const auto platform = MakeSystemPlatform();
+  Global global;
+  MessageBoxes messages;
+  RunningProgram program(global, *platform, messages);
+  App app{global, *platform, messages, program};
+
+  int status = 0;
+  program.Run([&] {
+    OpenProgramFolder(global, *platform);
+    Main window(app);
+    program.SetStoreTyped([&window] { window.StoreTyped(); });
+    QObject::connect(&window, &Main::Closed, &application, &QCoreApplication::quit);
+    window.Form_Load();
+    window.show();
+    status = QApplication::exec();
+    program.SetStoreTyped({});
+  });
+  return status;
+}
+
+}  // namespace tavrel
