@@ -1,0 +1,114 @@
+#include "support/user.h"
+
+#include <QAction>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <vector>
+
+#include "ui/controls/grid.h"
+
+namespace tavrel::test {
+namespace {
+
+/// The menus from the menu bar down to the one that holds the action.
+std::vector<QMenu*> MenusTo(QMainWindow& window, const QAction& action) {
+  std::vector<QMenu*> menus;
+  const QAction* wanted = &action;
+  while (wanted != nullptr) {
+    QMenu* holder = nullptr;
+    for (QMenu* menu : window.findChildren<QMenu*>()) {
+      if (menu->actions().contains(const_cast<QAction*>(wanted))) holder = menu;
+    }
+    if (holder != nullptr) menus.insert(menus.begin(), holder);
+    wanted = holder == nullptr ? nullptr : holder->menuAction();
+  }
+  return menus;
+}
+
+QListWidgetItem& FindRow(QListWidget& list, const QString& text) {
+  for (int row = 0; row < list.count(); ++row) {
+    if (list.item(row)->text().startsWith(text)) return *list.item(row);
+  }
+  throw std::runtime_error("no row '" + text.toStdString() + "' in the list");
+}
+
+QPoint Middle(QListWidget& list, QListWidgetItem& item) {
+  list.scrollToItem(&item);
+  return list.visualItemRect(&item).center();
+}
+
+}  // namespace
+
+std::string NamesBelow(const QObject& parent) {
+  QString names;
+  for (const QObject* child : parent.findChildren<QObject*>()) {
+    if (!child->objectName().isEmpty() && !child->objectName().startsWith("qt_")) names += child->objectName() + ' ';
+  }
+  return names.toStdString();
+}
+
+void Click(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }
+
+void Click(const QWidget& window, const QString& name) { Click(Find<QWidget>(window, name)); }
+
+void TypeInto(QWidget& field, const QString& text) {
+  QWidget* target = &field;
+  if (auto* box = qobject_cast<QPlainTextEdit*>(&field)) target = box->viewport();
+  if (auto* line = field.findChild<QLineEdit*>()) target = line;
+  QTest::mouseClick(target, Qt::LeftButton);
+  QWidget* typing = target == &field || qobject_cast<QLineEdit*>(target) != nullptr ? target : &field;
+  QTest::keySequence(typing, QKeySequence::SelectAll);
+  if (text.isEmpty()) QTest::keyClick(typing, Qt::Key_Delete);
+  for (const QChar c : text) {
+    if (c == '\n') {
+      QTest::keyClick(typing, Qt::Key_Return);
+    } else {
+      QTest::sendKeyEvent(QTest::Click, typing, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    }
+  }
+}
+
+void TypeInto(const QWidget& window, const QString& name, const QString& text) {
+  TypeInto(Find<QWidget>(window, name), text);
+}
+
+void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  QTest::keyClick(&widget, key, modifiers);
+}
+
+void ChooseMenu(QMainWindow& window, const QString& name) {
+  auto& action = Find<QAction>(window, name);
+  const std::vector<QMenu*> menus = MenusTo(window, action);
+  QMenuBar* bar = window.menuBar();
+  QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menus.front()->menuAction()).center());
+  for (std::size_t i = 1; i < menus.size(); ++i) {
+    QTest::mouseClick(menus[i - 1], Qt::LeftButton, {}, menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());
+  }
+  QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&action).center());
+  for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) (*menu)->close();
+}
+
+void ClickRow(Grid& grid, int row) {
+  const QModelIndex cell = grid.model()->index(row - 1, 1);
+  grid.scrollTo(cell);
+  QTest::mouseClick(grid.viewport(), Qt::LeftButton, {}, grid.visualRect(cell).center());
+}
+
+void ClickListRow(QListWidget& list, const QString& text) {
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, Middle(list, FindRow(list, text)));
+}
+
+void DoubleClickListRow(QListWidget& list, const QString& text) {
+  const QPoint middle = Middle(list, FindRow(list, text));
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middle);
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middle);
+}
+
+void Settle() { QTest::qWait(20); }
+
+}  // namespace tavrel::test
