@@ -1,5 +1,6 @@
 #include "support/user.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QLineEdit>
 #include <QListWidget>
@@ -35,6 +36,22 @@ QListWidgetItem& FindRow(QListWidget& list, const QString& text) {
     if (list.item(row)->text().startsWith(text)) return *list.item(row);
   }
   throw std::runtime_error("no row '" + text.toStdString() + "' in the list");
+}
+
+std::string IconName(Icon icon) {
+  switch (icon) {
+    case Icon::Information:
+      return "information";
+    case Icon::Question:
+      return "question";
+    case Icon::Exclamation:
+      return "exclamation";
+    case Icon::Critical:
+      return "critical";
+    case Icon::None:
+      break;
+  }
+  return "no icon";
 }
 
 QPoint Middle(QListWidget& list, QListWidgetItem& item) {
@@ -91,6 +108,12 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
   }
   QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&action).center());
   for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) (*menu)->close();
+  ActivateWindow(window);
+}
+
+void ActivateWindow(QWidget& window) {
+  window.activateWindow();
+  if (window.isVisible() && !QTest::qWaitForWindowActive(&window)) throw std::runtime_error("the window is not active");
 }
 
 void ClickRow(Grid& grid, int row) {
@@ -107,6 +130,38 @@ void DoubleClickListRow(QListWidget& list, const QString& text) {
   const QPoint middle = Middle(list, FindRow(list, text));
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middle);
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middle);
+}
+
+std::vector<std::string> Seen(const std::vector<Message>& messages) {
+  std::vector<std::string> seen;
+  for (const Message& message : messages) {
+    seen.push_back(message.Title + " | " + IconName(message.Icon) + " | " + message.Text +
+                   (message.Buttons == Buttons::Ok ? " | OK" : " | OK/Cancel"));
+  }
+  return seen;
+}
+
+std::vector<std::string> TabOrder(const QWidget& window) {
+  std::vector<std::string> names;
+  const QWidget* first = window.focusWidget();
+  for (QWidget* control = window.focusWidget(); control != nullptr; control = window.focusWidget()) {
+    names.push_back(control->objectName().toStdString());
+    QTest::keyClick(control, Qt::Key_Tab);
+    if (window.focusWidget() == first || window.focusWidget() == control) break;
+  }
+  return names;
+}
+
+std::vector<std::string> NamelessControls(const QWidget& window) {
+  std::vector<std::string> nameless;
+  for (QWidget* control : window.findChildren<QWidget*>()) {
+    const QString name = control->objectName();
+    const bool inner = name.isEmpty() || name.startsWith("qt_");
+    if (inner || control->focusPolicy() == Qt::NoFocus) continue;
+    const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
+    if (spoken == nullptr || spoken->text(QAccessible::Name).isEmpty()) nameless.push_back(name.toStdString());
+  }
+  return nameless;
 }
 
 void Settle() { QTest::qWait(20); }

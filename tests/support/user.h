@@ -5,6 +5,9 @@
 #include <QWidget>
 #include <stdexcept>
 #include <string>
+#include <vector>
+
+#include "core/shell/messages.h"
 
 class QAction;
 class QComboBox;
@@ -38,6 +41,9 @@ void TypeInto(const QWidget& window, const QString& name, const QString& text);
 
 void PressKey(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
 
+/// Makes a window the active one, as a window manager does when a dialog over it closes.
+void ActivateWindow(QWidget& window);
+
 /// Opens the menus down to an item with real clicks and clicks it.
 void ChooseMenu(QMainWindow& window, const QString& action);
 
@@ -47,6 +53,15 @@ void ClickRow(Grid& grid, int row);
 /// Selects the list's row that begins with `text`.
 void ClickListRow(QListWidget& list, const QString& text);
 void DoubleClickListRow(QListWidget& list, const QString& text);
+
+/// Messages as a person sees them, "title | icon | text | buttons"; blanks and line ends stay as they are.
+std::vector<std::string> Seen(const std::vector<Message>& messages);
+
+/// The names of the controls that take the focus, in the order of the Tab key from the one that has it.
+std::vector<std::string> TabOrder(const QWidget& window);
+
+/// The controls that the keyboard reaches but that a screen reader has no name for.
+std::vector<std::string> NamelessControls(const QWidget& window);
 
 /// Lets pending events run.
 void Settle();

@@ -32,6 +32,17 @@ QString WithoutPictures(QString text) {
   return text;
 }
 
+/// Whether a text holds a word so long that looking for a place to break it would take the layout minutes.
+bool HasEndlessWord(const QString& text) {
+  constexpr qsizetype kEndless = 2000;
+  qsizetype length = 0;
+  for (const QChar c : text) {
+    length = c.isSpace() ? 0 : length + 1;
+    if (length > kEndless) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 BodyField::BodyField(QWidget* parent) : QPlainTextEdit(parent), code_page_(&CodePage::Windows1252()) {}
@@ -47,7 +58,15 @@ std::string BodyField::Bytes() const {
   return bytes;
 }
 
-void BodyField::SetBytes(std::string_view bytes) { setPlainText(ShownText(bytes, *code_page_)); }
+void BodyField::SetBytes(std::string_view bytes) {
+  const QString text = ShownText(bytes, *code_page_);
+  const auto wrap = HasEndlessWord(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+  if (wrap != wordWrapMode()) {
+    clear();
+    setWordWrapMode(wrap);
+  }
+  setPlainText(text);
+}
 
 int BodyField::Length() const { return document()->characterCount() - 1 + document()->blockCount() - 1; }
 
@@ -91,6 +110,7 @@ QMimeData* BodyField::createMimeDataFromSelection() const {
 
 void BodyField::InsertFitted(const QString& text) {
   const FittedText fitted = Fit(text, *code_page_, kLineFeed);
+  if (HasEndlessWord(fitted.Text)) setWordWrapMode(QTextOption::WrapAnywhere);
   textCursor().insertText(fitted.Text);
   ensureCursorVisible();
   if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);

@@ -1,5 +1,7 @@
+#include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 #include <QTimer>
 
 #include "support/window_test.h"
@@ -8,29 +10,56 @@
 namespace tavrel::test {
 namespace {
 
-using StartTest = WindowTest;
+class StartTest : public WindowTest {
+ protected:
+  PictureArea& Cover() { return Find<PictureArea>(Window(), "Picture1"); }
 
-TEST_F(StartTest, CoversTheWholeClientAreaAndDisablesTheEditMenu) {
-  auto& cover = Find<PictureArea>(Window(), "Picture1");
-  EXPECT_TRUE(cover.isVisible());
-  const int menu_height = Window().menuBar()->height();
-  EXPECT_EQ(QRect(cover.mapTo(&Window(), QPoint()), cover.size()),
-            QRect(0, menu_height, Window().width(), Window().height() - menu_height));
-  EXPECT_FALSE(Find<QMenu>(Window(), "EditMenu").menuAction()->isEnabled());
+  QRect ClientArea() {
+    const int menu_height = Window().menuBar()->height();
+    return {0, menu_height, Window().width(), Window().height() - menu_height};
+  }
+
+  QRect CoveredArea() { return {Cover().mapTo(&Window(), QPoint()), Cover().size()}; }
+};
+
+TEST_F(StartTest, TheCoverFillsTheClientAreaAndFollowsTheWindow) {
+  EXPECT_TRUE(Cover().isVisible());
+  EXPECT_EQ(CoveredArea(), ClientArea());
+  Window().resize(1300, 900);
+  Settle();
+  EXPECT_EQ(CoveredArea(), ClientArea());
+}
+
+TEST_F(StartTest, NoDocumentIsOpenAndNothingWasSearched) {
+  State.DocPath = "left over.dat";
+  State.FindText = "left over";
+  Start();
   EXPECT_TRUE(State.DocPath.empty());
   EXPECT_TRUE(State.FindText.empty());
+  EXPECT_FALSE(Find<QMenu>(Window(), "EditMenu").menuAction()->isEnabled());
+}
 
+TEST_F(StartTest, TheTimerOfTheLengthBarRunsWithoutADocument) {
   auto& timer = Find<QTimer>(Window(), "Timer1");
   EXPECT_TRUE(timer.isActive());
   EXPECT_EQ(timer.interval(), 1000);
 }
 
-TEST_F(StartTest, OpensADocument) {
+TEST_F(StartTest, CoveredFieldsGetNoKeyStrokes) {
   OpenDocument("Guide.dat", kGuide);
-  EXPECT_EQ(PagesGrid().TextMatrix(5, 1), "Five");
-  EXPECT_EQ(Title().Bytes(), "One");
-  EXPECT_EQ(PagesGrid().Row(), 1);
-  EXPECT_EQ(Save(), kGuide);
+  Title().setFocus();
+  Choose("FileClose");
+  ASSERT_TRUE(Cover().isVisible());
+  EXPECT_FALSE(Title().isVisible());
+  EXPECT_FALSE(Title().hasFocus());
+  EXPECT_FALSE(Body().hasFocus());
+}
+
+TEST_F(StartTest, OpeningADocumentUncoversTheEditor) {
+  OpenDocument("Guide.dat", kGuide);
+  EXPECT_FALSE(Cover().isVisible());
+  EXPECT_TRUE(Find<QMenu>(Window(), "EditMenu").menuAction()->isEnabled());
+  EXPECT_EQ(Find<QLabel>(Window(), "Label7").text(), "Guide");
 }
 
 }  // namespace

@@ -1,0 +1,94 @@
+#include "core/document/document_file.h"
+#include "rows.h"
+#include "support/fake_platform.h"
+#include "support/full_size_document.h"
+#include "support/recording.h"
+#include "support/temporary_folder.h"
+#include "ui/main/main_window.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QPlainTextEdit>
+
+#include <stdexcept>
+
+namespace tavrel::bench {
+namespace {
+
+constexpr int kMoves = 200;
+constexpr int kStride = 137;
+constexpr double kFrame = 1.0 / 60;
+
+/// Knows when a widget was painted last.
+class PaintWatch : public QObject {
+ public:
+  explicit PaintWatch(QWidget& widget) { widget.installEventFilter(this); }
+
+  /// Lets events run until the widget is painted.
+  void WaitForPaint() {
+    while (!painted_) QCoreApplication::processEvents();
+    painted_ = false;
+  }
+
+  void Forget() { painted_ = false; }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    painted_ = painted_ || event->type() == QEvent::Paint;
+    return false;
+  }
+
+ private:
+  bool painted_ = false;
+};
+
+/// The editor with the full-size document open.
+struct OpenEditor {
+  test::TemporaryFolder Folder;
+  Global State;
+  test::FakePlatform System;
+  test::RecordingMessages Messages;
+  test::RecordedProgram Program;
+  App Application{State, System, Messages, Program};
+  Main Window{Application};
+
+  OpenEditor() {
+    test::MakeFullSizeDocument(State);
+    State.ProgramFolder = Folder.Path();
+    Window.Form_Load();
+    State.DocPath = "Full size.dat";
+    SaveDocument(State, System);
+    Window.LoadDoc();
+    Window.ShowControls();
+    Window.ShowDocumentName();
+    Window.show();
+    Window.activateWindow();
+    QCoreApplication::processEvents();
+  }
+};
+
+double TimeMove(OpenEditor& editor, PaintWatch& body) {
+  const int page = (editor.State.CurrentPage + kStride) % kLastPage + 1;
+  QCoreApplication::processEvents();
+  body.Forget();
+  return Seconds([&] {
+    editor.Window.SavePage();
+    editor.State.CurrentPage = static_cast<std::int16_t>(page);
+    editor.Window.LoadPage(page);
+    body.WaitForPaint();
+    QCoreApplication::processEvents();
+  });
+}
+
+}  // namespace
+
+Row PageRow() {
+  OpenEditor editor;
+  auto* body = editor.Window.findChild<QPlainTextEdit*>("Text1");
+  if (body == nullptr) throw std::runtime_error("the main window has no page text");
+  PaintWatch watch(*body->viewport());
+  return Compare(
+      "store a page, show another : 60 Hz frame", 0.5, kMoves, [&] { return TimeMove(editor, watch); },
+      [] { return kFrame; });
+}
+
+}  // namespace tavrel::bench

@@ -1,0 +1,25 @@
+#include "rows.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+
+/// Prints every figure as a ratio to the raw cost of the same work in the same run. How fast the machine is
+/// never makes it fail.
+int main(int argc, char* argv[]) {
+  using namespace tavrel::bench;
+  ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  QApplication application(argc, argv);
+  try {
+    std::vector<Row> rows = FileRows();
+    rows.push_back(PageRow());
+    for (Row& row : ProcessRows()) rows.push_back(std::move(row));
+    PrintTable(rows);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "The figures could not be measured: %s\n", error.what());
+    return EXIT_FAILURE;
+  }
+  return EXIT_SUCCESS;
+}
