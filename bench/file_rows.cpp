@@ -12,6 +12,7 @@
 #include <malloc.h>
 #include <memory>
 #include <string>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
@@ -22,7 +23,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kRepetitions = 25;
+constexpr int kPublishings = 11;
 constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kNewFolderMode = 0777;
 constexpr PublishOptions kOptions{.NotesMenuLink = true, .BackgroundMusic = true};
 
 template <typename Result>
@@ -45,8 +48,13 @@ struct FullSize {
   }
 };
 
-/// Gives what earlier repetitions freed back to the system, so that each one pays for its memory as the first
-/// load of a program does.
+/// From now on big blocks come fresh from the system, as they do when a program has just started. The library
+/// would otherwise keep them for reuse once one was freed.
+void MakeMemoryFresh() {
+  ::mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+}
+
+/// Gives the small blocks of earlier repetitions back too, so that each load pays for its memory.
 void ForgetFreedMemory() {
   ::malloc_trim(0);
 }
@@ -92,47 +100,53 @@ Notes PreparedNotes(const Global& global, const fs::path& folder) {
   return notes;
 }
 
-double TimePublishing(const FullSize& full) {
-  const fs::path folder = full.Folder.Path() / "published";
-  const double seconds = Seconds([&] { PublishNotes(*full.State, *full.System, folder, kOptions); });
-  fs::remove_all(folder);
-  return seconds;
+/// Numbered folders, one for each repetition. They all stay until the end: some file systems are slow to
+/// create files where others have just been deleted.
+class Folders {
+ public:
+  explicit Folders(const FullSize& full) : parent_(full.Folder.Path()) {}
+
+  fs::path Next() { return parent_ / ("notes " + std::to_string(++last_)); }
+
+ private:
+  fs::path parent_;
+  int last_ = 0;
+};
+
+double TimePublishing(const FullSize& full, const fs::path& folder) {
+  return Seconds([&] { PublishNotes(*full.State, *full.System, folder, kOptions); });
 }
 
-double TimeWritingNotes(const Notes& notes) {
-  const fs::path folder = notes.front().first.parent_path();
-  fs::create_directory(folder);
-  const double seconds = Seconds([&] {
+double TimeWritingNotes(const FullSize& full, const fs::path& folder) {
+  const Notes notes = PreparedNotes(*full.State, folder);
+  return Seconds([&] {
+    Checked(::mkdir(folder.c_str(), kNewFolderMode), "mkdir");
     for (const auto& [file, bytes] : notes) WriteAtOnce(file, bytes, false);
   });
-  fs::remove_all(folder);
-  return seconds;
 }
 
 }  // namespace
 
 std::vector<Row> FileRows() {
-  // A fixed threshold: the library's own one grows once a big block is freed, and blocks would be reused.
-  ::mallopt(M_MMAP_THRESHOLD, 128 * 1024);
-
   const FullSize full;
   const fs::path file = DocumentFile(*full.State);
   const std::string text = DocumentText(*full.State);
   const fs::path raw_file = full.Folder.Path() / "raw";
-  const Notes notes = PreparedNotes(*full.State, full.Folder.Path() / "raw notes");
+  Folders folders(full);
 
-  std::vector<Row> rows;
-  rows.push_back(Compare(
-      "load the document : read its file", 4, kRepetitions, [&] { return TimeLoading(full); },
-      [&] { return TimeReading(file, text.size()); }));
-  rows.push_back(Compare(
+  const Row save = Compare(
       "save the document : write and flush", 2, kRepetitions,
       [&] { return Seconds([&] { SaveDocument(*full.State, *full.System); }); },
-      [&] { return Seconds([&] { WriteAtOnce(raw_file, text, true); }); }));
-  rows.push_back(Compare(
-      "publish 999 notes : write 999 files", 1.25, kRepetitions, [&] { return TimePublishing(full); },
-      [&] { return TimeWritingNotes(notes); }));
-  return rows;
+      [&] { return Seconds([&] { WriteAtOnce(raw_file, text, true); }); });
+  const Row publish = Compare(
+      "publish 999 notes : write 999 files", 1.25, kPublishings,
+      [&] { return TimePublishing(full, folders.Next()); },
+      [&] { return TimeWritingNotes(full, folders.Next()); });
+  MakeMemoryFresh();
+  const Row load = Compare(
+      "load the document : read its file", 4, kRepetitions, [&] { return TimeLoading(full); },
+      [&] { return TimeReading(file, text.size()); });
+  return {load, save, publish};
 }
 
 }  // namespace tavrel::bench

@@ -11,6 +11,7 @@
 int main(int argc, char* argv[]) {
   using namespace tavrel::bench;
   ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  ::setenv("QT_LOGGING_RULES", "*.warning=false", 1);
   QApplication application(argc, argv);
   try {
     std::vector<Row> rows = FileRows();

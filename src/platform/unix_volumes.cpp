@@ -1,9 +1,11 @@
 #include "platform/unix_volumes.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <string_view>
 
 #include "core/text/run_time_error.h"
 
@@ -31,11 +33,33 @@ std::string Unescaped(const std::string& field) {
   return result;
 }
 
-/// Disks that people plug in or mount appear below these folders.
-bool IsUserMount(const std::string& mount_point) {
-  constexpr std::string_view kMountFolders[] = {"/media/", "/run/media/", "/mnt", "/Volumes/"};
-  return std::any_of(std::begin(kMountFolders), std::end(kMountFolders),
-                     [&](std::string_view folder) { return mount_point.starts_with(folder); });
+bool IsBelow(std::string_view folder, std::string_view path) {
+  return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
+}
+
+template <std::size_t Count>
+bool IsBelowAny(const std::array<std::string_view, Count>& folders, std::string_view path) {
+  return std::any_of(folders.begin(), folders.end(), [&](std::string_view folder) { return IsBelow(folder, path); });
+}
+
+/// One line of a mount table.
+struct Mount {
+  std::string Device;
+  std::string Point;
+  std::string Type;
+};
+
+/// Whether a person would call it a disk: a device of its own outside the system's inner folders, or whatever
+/// is mounted where people mount things, such as a folder of another computer.
+bool IsDisk(const Mount& mount) {
+  constexpr std::array<std::string_view, 9> kInnerFolders = {"/boot", "/dev", "/etc", "/proc", "/snap",
+                                                             "/sys",  "/usr", "/var", "/run/user"};
+  constexpr std::array<std::string_view, 3> kMountFolders = {"/media", "/mnt", "/run/media"};
+  constexpr std::array<std::string_view, 9> kPseudoTypes = {"autofs", "cgroup",   "cgroup2", "devpts", "devtmpfs",
+                                                            "proc",   "squashfs", "sysfs",   "tmpfs"};
+  if (std::find(kPseudoTypes.begin(), kPseudoTypes.end(), mount.Type) != kPseudoTypes.end()) return false;
+  const bool own_device = mount.Device.starts_with("/dev/") && !IsBelowAny(kInnerFolders, mount.Point);
+  return own_device || IsBelowAny(kMountFolders, mount.Point);
 }
 
 }  // namespace
@@ -45,11 +69,11 @@ std::vector<Volume> MountedVolumes(const fs::path& mount_table) {
   std::ifstream table(mount_table);
   for (std::string line; std::getline(table, line);) {
     std::istringstream fields(line);
-    std::string device;
-    std::string mount_point;
-    fields >> device >> mount_point;
-    const fs::path root = Unescaped(mount_point);
-    if (!IsUserMount(root.string())) continue;
+    Mount mount;
+    fields >> mount.Device >> mount.Point >> mount.Type;
+    mount.Point = Unescaped(mount.Point);
+    if (!IsDisk(mount)) continue;
+    const fs::path root = mount.Point;
     const bool known = std::any_of(volumes.begin(), volumes.end(), [&](const Volume& v) { return v.Root == root; });
     if (!known) volumes.push_back({PathText(root), root});
   }

@@ -18,11 +18,14 @@ fs::path TemporaryName(const fs::path& folder) {
   return folder / (".tavrel-" + std::to_string(random()) + ".tmp");
 }
 
-fs::path WhereLinkLeads(const fs::path& file) {
+/// The file behind a symbolic link, also if it does not exist yet.
+fs::path WhereLinkLeads(fs::path file) {
+  constexpr int kMostLinks = 40;
   std::error_code error;
-  if (!fs::is_symlink(file, error)) return file;
-  const fs::path target = fs::canonical(file, error);
-  return error ? file : target;
+  for (int links = 0; links < kMostLinks && fs::is_symlink(file, error); ++links) {
+    file = file.parent_path() / fs::read_symlink(file, error);
+  }
+  return file;
 }
 
 std::error_code WriteAll(FileLayer& files, int handle, std::string_view bytes) {

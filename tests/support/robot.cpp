@@ -35,16 +35,22 @@ void Robot::Poll() {
     return;
   }
   polls_without_step_ = 0;
-  const Expected step = std::move(steps_.front());
-  steps_.pop_front();
   playing_.push_back(window);
+  Expected step = std::move(steps_.front());
+  steps_.pop_front();
+  // A timer does not fire again inside its own handler, but a step may open a further window.
+  QMetaObject::invokeMethod(
+      this, [this, window, step = std::move(step)] { Play(step, *window); }, Qt::QueuedConnection);
+}
+
+void Robot::Play(const Expected& step, QWidget& window) {
   try {
-    step.Play(*window);
+    step.Play(window);
   } catch (const std::exception& error) {
     faults_.push_back(step.Window + ": " + error.what());
-    window->close();
+    window.close();
   }
-  playing_.pop_back();
+  std::erase(playing_, &window);
 }
 
 void Robot::CloseUnexpected(QWidget& window) {

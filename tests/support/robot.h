@@ -35,6 +35,7 @@ class Robot : public QObject {
   };
 
   void Poll();
+  void Play(const Expected& step, QWidget& window);
   void CloseUnexpected(QWidget& window);
 
   std::deque<Expected> steps_;

@@ -46,7 +46,7 @@ std::map<std::string, std::string> TemporaryFolder::Files() const {
   std::map<std::string, std::string> files;
   for (const auto& entry : fs::recursive_directory_iterator(path_)) {
     if (!entry.is_regular_file()) continue;
-    const fs::path name = fs::relative(entry.path(), path_);
+    const fs::path name = entry.path().lexically_relative(path_);
     files[name.generic_string()] = Read(name);
   }
   return files;

@@ -20,13 +20,14 @@ namespace {
 std::vector<QMenu*> MenusTo(QMainWindow& window, const QAction& action) {
   std::vector<QMenu*> menus;
   const QAction* wanted = &action;
-  while (wanted != nullptr) {
+  while (!window.menuBar()->actions().contains(const_cast<QAction*>(wanted))) {
     QMenu* holder = nullptr;
     for (QMenu* menu : window.findChildren<QMenu*>()) {
       if (menu->actions().contains(const_cast<QAction*>(wanted))) holder = menu;
     }
-    if (holder != nullptr) menus.insert(menus.begin(), holder);
-    wanted = holder == nullptr ? nullptr : holder->menuAction();
+    if (holder == nullptr) throw std::runtime_error("no menu holds " + action.objectName().toStdString());
+    menus.insert(menus.begin(), holder);
+    wanted = holder->menuAction();
   }
   return menus;
 }
@@ -135,13 +136,15 @@ void DoubleClickListRow(QListWidget& list, const QString& text) {
 std::vector<std::string> Seen(const std::vector<Message>& messages) {
   std::vector<std::string> seen;
   for (const Message& message : messages) {
-    seen.push_back(message.Title + " | " + IconName(message.Icon) + " | " + message.Text +
-                   (message.Buttons == Buttons::Ok ? " | OK" : " | OK/Cancel"));
+    seen.push_back(message.Title + "|" + IconName(message.Icon) + "|" + message.Text +
+                   (message.Buttons == Buttons::Ok ? "|OK" : "|OK/Cancel"));
   }
   return seen;
 }
 
-std::vector<std::string> TabOrder(const QWidget& window) {
+std::vector<std::string> TabOrder(QWidget& window) {
+  // A dialog counts as active from the start, through the window below it; its focus comes with its own events.
+  if (!QTest::qWaitFor([&] { return window.focusWidget() != nullptr; })) return {};
   std::vector<std::string> names;
   const QWidget* first = window.focusWidget();
   for (QWidget* control = window.focusWidget(); control != nullptr; control = window.focusWidget()) {

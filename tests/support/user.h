@@ -54,11 +54,11 @@ void ClickRow(Grid& grid, int row);
 void ClickListRow(QListWidget& list, const QString& text);
 void DoubleClickListRow(QListWidget& list, const QString& text);
 
-/// Messages as a person sees them, "title | icon | text | buttons"; blanks and line ends stay as they are.
+/// Messages as a person sees them: "title|icon|text|buttons". Blanks and line ends stay as they are.
 std::vector<std::string> Seen(const std::vector<Message>& messages);
 
 /// The names of the controls that take the focus, in the order of the Tab key from the one that has it.
-std::vector<std::string> TabOrder(const QWidget& window);
+std::vector<std::string> TabOrder(QWidget& window);
 
 /// The controls that the keyboard reaches but that a screen reader has no name for.
 std::vector<std::string> NamelessControls(const QWidget& window);

@@ -103,6 +103,7 @@ void DeleteDocument(const std::filesystem::path& folder, const std::filesystem::
   backup += ".bak";
   for (const std::filesystem::path& file : {folder / name, folder / backup}) {
     std::error_code error;
+    if (std::filesystem::is_directory(file, error)) continue;
     std::filesystem::remove(file, error);
     if (error) throw FileError(file, "could not be deleted", error);
   }

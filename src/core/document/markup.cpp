@@ -44,7 +44,7 @@ void SetTag(std::string& text, std::string_view value, std::string_view tag, int
   if (opening == kNotFound) return;
   const std::size_t start = opening + tag.size();
   const std::size_t end = text.find(ClosingTag(tag), start - 1);
-  if (end != kNotFound) text.replace(start, end - start, value);
+  if (end != kNotFound) text = text.substr(0, start).append(value).append(text, end);
 }
 
 void AppendTag(std::string& text, std::string_view tag, std::string_view content) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <chrono>
 #include <system_error>
+#include <tuple>
 #include <utility>
 
 namespace tavrel {

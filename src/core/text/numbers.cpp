@@ -1,10 +1,9 @@
 #include "core/text/numbers.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
-#include <cstdio>
+#include <cstdlib>
 #include <limits>
 
 namespace tavrel {
@@ -37,12 +36,20 @@ std::size_t NumberLength(std::string_view text) {
   return end;
 }
 
+/// Whether a number that is too large or too small to hold is the latter.
+bool IsTiny(std::string_view number) {
+  const std::size_t exponent = number.find_first_of("eE");
+  if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
+  return number.find_first_not_of('0') == number.find('.');
+}
+
 }  // namespace
 
 std::string FormatPage(int number) {
-  std::array<char, 16> buffer{};
-  const int length = std::snprintf(buffer.data(), buffer.size(), "%03d", number);
-  return {buffer.data(), static_cast<std::size_t>(length)};
+  constexpr std::size_t kLeastDigits = 3;
+  std::string digits = std::to_string(std::abs(number));
+  if (digits.size() < kLeastDigits) digits.insert(0, kLeastDigits - digits.size(), '0');
+  return (number < 0 ? "-" : "") + digits;
 }
 
 std::string MusicLinkName(int number) { return "M" + std::to_string(number); }
@@ -55,7 +62,7 @@ double Value(std::string_view text) {
 
   double value = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (parsed.ec == std::errc::result_out_of_range) value = std::numeric_limits<double>::max();
+  if (parsed.ec == std::errc::result_out_of_range) value = IsTiny(text) ? 0 : std::numeric_limits<double>::max();
   return negative ? -value : value;
 }
 

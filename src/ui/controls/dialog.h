@@ -20,7 +20,7 @@ class Dialog : public QDialog {
 
   void keyPressEvent(QKeyEvent* event) override;
 
-  App& app_;  // NOLINT(readability-identifier-naming): every dialog works with it
+  App& app_;
 };
 
 }  // namespace tavrel

@@ -1,7 +1,6 @@
 #include "ui/shell/start.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QStandardPaths>
 
 #include "core/shell/messages.h"
@@ -12,27 +11,17 @@
 #include "ui/controls/text_conversion.h"
 #include "ui/main/main_window.h"
 #include "ui/shell/running_program.h"
-
-// Resources of a static library have to be asked for, outside any namespace.
-static void InitResources() { Q_INIT_RESOURCE(tavrel); }
+#include "ui/shell/sample_project.h"
 
 namespace tavrel {
 namespace {
-
-constexpr const char* kSampleProject = "Writing for the iPod.dat";
-
-void InstallSampleProject(const Global& global, Platform& platform) {
-  QFile sample(QString(":/sample/") + kSampleProject);
-  if (!sample.open(QIODevice::ReadOnly)) return;
-  platform.WriteWholeFile(global.ProgramFolder / kSampleProject, sample.readAll().toStdString());
-}
 
 void OpenProgramFolder(Global& global, Platform& platform) {
   global.ProgramFolder =
       FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
                         ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
   const bool first_start = EnterProgramFolder(global.ProgramFolder);
-  if (first_start) InstallSampleProject(global, platform);
+  if (first_start) InstallSampleProject(global.ProgramFolder, platform);
 }
 
 }  // namespace
@@ -41,7 +30,6 @@ int RunTavrelWriter(QApplication& application) {
   QApplication::setApplicationName(kProgramName.data());
   QApplication::setQuitOnLastWindowClosed(false);
 
-  InitResources();
   const auto platform = MakeSystemPlatform();
   Global global;
   MessageBoxes messages;

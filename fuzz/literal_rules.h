@@ -1,0 +1,19 @@
+#pragma once
+
+#include "core/document/global.h"
+#include "core/ipod/note_writer.h"
+
+#include <string>
+
+/// The rules for elements and notes written down step by step, one character at a time and with positions
+/// from 1, for comparison with the code that the program runs.
+namespace tavrel::fuzz {
+
+std::string LiteralGetTag(const std::string& text, const std::string& tag, int occurrence);
+void LiteralSetTag(std::string& text, const std::string& value, const std::string& tag, int occurrence);
+
+/// Throws RunTimeError for a music link number outside 0 to 100.
+std::string LiteralGetText(const Global& global, const std::string& text, int page);
+std::string LiteralNote(const Global& global, int page, const PublishOptions& options);
+
+}  // namespace tavrel::fuzz

@@ -1,0 +1,70 @@
+#include "core/shell/program_folder.h"
+
+#include "core/text/run_time_error.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tavrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+
+TEST(FindProgramFolder, IsTheExecutablesFolderOfAPortableCopy) {
+  const TemporaryFolder folder;
+  folder.Write("bin/tavrel.ini", "");
+  EXPECT_EQ(FindProgramFolder(folder.Path() / "bin", folder.Path() / "Documents"), folder.Path() / "bin");
+}
+
+TEST(FindProgramFolder, LiesInTheDocumentsFolderOtherwise) {
+  const TemporaryFolder folder;
+  folder.Write("bin/program", "");
+  folder.Write("Documents/tavrel.ini", "");
+  EXPECT_EQ(FindProgramFolder(folder.Path() / "bin", folder.Path() / "Documents"),
+            folder.Path() / "Documents" / "Tavrel Writer");
+}
+
+TEST(FindProgramFolder, TakesNoFolderForASettingsFile) {
+  const TemporaryFolder folder;
+  fs::create_directories(folder.Path() / "bin" / "tavrel.ini");
+  EXPECT_EQ(FindProgramFolder(folder.Path() / "bin", folder.Path() / "Documents"),
+            folder.Path() / "Documents" / "Tavrel Writer");
+}
+
+TEST(FindProgramFolder, MakesNothing) {
+  const TemporaryFolder folder;
+  FindProgramFolder(folder.Path() / "bin", folder.Path() / "Documents");
+  EXPECT_TRUE(fs::is_empty(folder.Path()));
+}
+
+TEST(EnterProgramFolder, MakesTheFolderOnFirstStart) {
+  const TemporaryFolder folder;
+  const fs::path made = folder.Path() / "Documents" / "Tavrel Writer";
+  EXPECT_TRUE(EnterProgramFolder(made));
+  EXPECT_EQ(fs::current_path(), made);
+}
+
+TEST(EnterProgramFolder, MakesAnExistingFolderCurrent) {
+  const TemporaryFolder folder;
+  folder.Write("Guide.dat", "x");
+  EXPECT_FALSE(EnterProgramFolder(folder.Path()));
+  EXPECT_EQ(fs::current_path(), folder.Path());
+  EXPECT_EQ(folder.Read("Guide.dat"), "x");
+}
+
+TEST(EnterProgramFolder, NamesAFolderThatCannotBeEntered) {
+  const TemporaryFolder folder;
+  folder.Write("file", "x");
+  const fs::path before = fs::current_path();
+  for (const fs::path& impossible : {folder.Path() / "file", folder.Path() / "file" / "Tavrel Writer"}) {
+    EXPECT_THAT([&] { EnterProgramFolder(impossible); },
+                ThrowsMessage<FileError>(HasSubstr(PathText(impossible))));
+  }
+  EXPECT_EQ(fs::current_path(), before);
+}
+
+}  // namespace
+}  // namespace tavrel::test

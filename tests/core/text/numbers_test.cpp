@@ -1,0 +1,124 @@
+#include "core/text/numbers.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace tavrel::test {
+namespace {
+
+TEST(FormatPage, WritesAtLeastThreeDigits) {
+  EXPECT_EQ(FormatPage(0), "000");
+  EXPECT_EQ(FormatPage(1), "001");
+  EXPECT_EQ(FormatPage(42), "042");
+  EXPECT_EQ(FormatPage(999), "999");
+  EXPECT_EQ(FormatPage(1000), "1000");
+}
+
+TEST(MusicLinkName, HasNoLeadingZeros) {
+  EXPECT_EQ(MusicLinkName(1), "M1");
+  EXPECT_EQ(MusicLinkName(100), "M100");
+}
+
+TEST(Value, ReadsTheLongestNumberAtTheStart) {
+  EXPECT_EQ(Value("1"), 1);
+  EXPECT_EQ(Value("-1"), -1);
+  EXPECT_EQ(Value("+2"), 2);
+  EXPECT_EQ(Value("007"), 7);
+  EXPECT_EQ(Value("0.5"), 0.5);
+  EXPECT_EQ(Value(".5"), 0.5);
+  EXPECT_EQ(Value("-.5"), -0.5);
+  EXPECT_EQ(Value("5."), 5);
+  EXPECT_EQ(Value("1abc"), 1);
+  EXPECT_EQ(Value("12 34"), 12);
+  EXPECT_EQ(Value("1.2.3"), 1.2);
+  EXPECT_EQ(Value("1-2"), 1);
+}
+
+TEST(Value, ReadsAnExponentThatHasDigits) {
+  EXPECT_EQ(Value("2e3"), 2000);
+  EXPECT_EQ(Value("2E+3"), 2000);
+  EXPECT_EQ(Value("25e-1"), 2.5);
+  EXPECT_EQ(Value("2e"), 2);
+  EXPECT_EQ(Value("2e+"), 2);
+  EXPECT_EQ(Value("2ex"), 2);
+}
+
+TEST(Value, SkipsLeadingBlanks) {
+  EXPECT_EQ(Value("   7"), 7);
+  EXPECT_EQ(Value(" -7 "), -7);
+}
+
+TEST(Value, IsZeroForTextThatDoesNotBeginWithANumber) {
+  for (const char* text :
+       {"", " ", "yes", "x1", ".", "-", "+", "-x", "--1", "e5", ".e5", "inf", "nan", "M5", ","}) {
+    EXPECT_EQ(Value(text), 0) << text;
+  }
+}
+
+TEST(Value, IsHugeBeyondTheLargestNumber) {
+  EXPECT_GT(Value("1e999"), 1e300);
+  EXPECT_LT(Value("-1e999"), -1e300);
+}
+
+TEST(Value, IsNearZeroBelowTheSmallestNumber) {
+  EXPECT_NEAR(Value("1e-999"), 0, 1e-300);
+  EXPECT_NEAR(Value("-1e-999"), 0, 1e-300);
+}
+
+TEST(WholeValue, RoundsToTheNearestNumber) {
+  EXPECT_EQ(WholeValue("2.6"), 3);
+  EXPECT_EQ(WholeValue("2.4"), 2);
+  EXPECT_EQ(WholeValue("-2.6"), -3);
+  EXPECT_EQ(WholeValue("7"), 7);
+  EXPECT_EQ(WholeValue(" 3 "), 3);
+  EXPECT_EQ(WholeValue("ary"), 0);
+}
+
+TEST(WholeValue, RoundsAHalfToTheEvenNumber) {
+  EXPECT_EQ(WholeValue("0.5"), 0);
+  EXPECT_EQ(WholeValue("1.5"), 2);
+  EXPECT_EQ(WholeValue("2.5"), 2);
+  EXPECT_EQ(WholeValue("-1.5"), -2);
+}
+
+TEST(WholeValue, StaysWithinItsBounds) {
+  EXPECT_EQ(WholeValue("99999999999999999999"), std::numeric_limits<std::int32_t>::max());
+  EXPECT_EQ(WholeValue("-99999999999999999999"), std::numeric_limits<std::int32_t>::min());
+  EXPECT_EQ(WholeValue("1e999"), std::numeric_limits<std::int32_t>::max());
+  EXPECT_EQ(WholeValue("2147483647"), 2147483647);
+}
+
+TEST(LeadingDigits, StopsAtTheFirstOtherCharacter) {
+  EXPECT_EQ(LeadingDigits("2"), 2);
+  EXPECT_EQ(LeadingDigits("007"), 7);
+  EXPECT_EQ(LeadingDigits("12x"), 12);
+  EXPECT_EQ(LeadingDigits("12.7"), 12);
+  EXPECT_EQ(LeadingDigits("1000"), 1000);
+}
+
+TEST(LeadingDigits, IsZeroWithoutDigits) {
+  for (const char* text : {"", "abc", "-5", "+5", " 5", "M5"}) EXPECT_EQ(LeadingDigits(text), 0) << text;
+}
+
+TEST(LeadingDigits, KeepsTheLowSixteenBits) {
+  EXPECT_EQ(LeadingDigits("32767"), 32767);
+  EXPECT_EQ(LeadingDigits("32768"), -32768);
+  EXPECT_EQ(LeadingDigits("65535"), -1);
+  EXPECT_EQ(LeadingDigits("65536"), 0);
+  EXPECT_EQ(LeadingDigits("70000"), 4464);
+}
+
+TEST(SignedText, HasABlankInPlaceOfThePlusSign) {
+  EXPECT_EQ(SignedText(12), " 12");
+  EXPECT_EQ(SignedText(0), " 0");
+  EXPECT_EQ(SignedText(-7), "-7");
+}
+
+TEST(PrintForm, EndsWithABlankToo) {
+  EXPECT_EQ(PrintForm(3), " 3 ");
+  EXPECT_EQ(PrintForm(999), " 999 ");
+  EXPECT_EQ(PrintForm(-1), "-1 ");
+}
+
+}  // namespace
+}  // namespace tavrel::test

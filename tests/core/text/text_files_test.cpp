@@ -1,0 +1,90 @@
+#include "core/text/text_files.h"
+
+#include "core/text/run_time_error.h"
+#include "support/temporary_folder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+namespace tavrel::test {
+namespace {
+
+using namespace std::string_literals;
+using testing::HasSubstr;
+using testing::ThrowsMessage;
+using LineList = std::vector<std::string>;
+
+LineList Lines(std::string_view text) {
+  LineList lines;
+  for (LineReader reader(text); !reader.AtEnd();) lines.emplace_back(reader.Next());
+  return lines;
+}
+
+TEST(LineReader, EndsLinesAtBothKindsOfLineEnd) {
+  EXPECT_EQ(Lines("a\r\nb\r\n"), (LineList{"a", "b"}));
+  EXPECT_EQ(Lines("a\nb\n"), (LineList{"a", "b"}));
+  EXPECT_EQ(Lines("a\nb\r\nc\n"), (LineList{"a", "b", "c"}));
+}
+
+TEST(LineReader, HasNoLineInAnEmptyText) {
+  EXPECT_EQ(Lines(""), LineList());
+}
+
+TEST(LineReader, GivesEmptyLines) {
+  EXPECT_EQ(Lines("\r\n"), (LineList{""}));
+  EXPECT_EQ(Lines("\n\r\na\r\n\n"), (LineList{"", "", "a", ""}));
+}
+
+TEST(LineReader, GivesALastLineWithoutItsEnd) {
+  EXPECT_EQ(Lines("a\r\nb"), (LineList{"a", "b"}));
+  EXPECT_EQ(Lines("b"), (LineList{"b"}));
+}
+
+TEST(LineReader, TakesALoneCarriageReturnForContent) {
+  EXPECT_EQ(Lines("a\rb\r\n"), (LineList{"a\rb"}));
+  EXPECT_EQ(Lines("a\r\r\nb"), (LineList{"a\r", "b"}));
+  EXPECT_EQ(Lines("a\r"), (LineList{"a\r"}));
+}
+
+TEST(LineReader, KeepsEveryOtherByte) {
+  const std::string line = "\0\x1A\x80\xFF\t,\""s;
+  EXPECT_EQ(Lines(line + "\r\n" + line + "\n"), (LineList{line, line}));
+}
+
+TEST(ReadWholeFile, GivesEveryByte) {
+  const TemporaryFolder folder;
+  std::string bytes;
+  for (int i = 0; i < 100'000; ++i) bytes += static_cast<char>(i * 7 % 256);
+  folder.Write("bytes", bytes);
+  EXPECT_EQ(ReadWholeFile(folder.Path() / "bytes"), bytes);
+}
+
+TEST(ReadWholeFile, GivesNothingForAnEmptyFile) {
+  const TemporaryFolder folder;
+  folder.Write("empty", "");
+  EXPECT_EQ(ReadWholeFile(folder.Path() / "empty"), "");
+}
+
+TEST(ReadWholeFile, NamesAMissingFile) {
+  const TemporaryFolder folder;
+  const std::filesystem::path file = folder.Path() / "missing.dat";
+  EXPECT_THAT([&] { ReadWholeFile(file); }, ThrowsMessage<FileError>(HasSubstr(PathText(file))));
+}
+
+TEST(ReadWholeFile, RefusesAFolder) {
+  const TemporaryFolder folder;
+  EXPECT_THAT([&] { ReadWholeFile(folder.Path()); },
+              ThrowsMessage<FileError>(HasSubstr(PathText(folder.Path()))));
+}
+
+#ifndef _WIN32
+TEST(ReadWholeFile, ReadsAFileThatDoesNotKnowItsSize) {
+  // The system makes this file up while it is read and gives its size as 0.
+  EXPECT_THAT(ReadWholeFile("/proc/self/status"), HasSubstr("Pid:"));
+}
+#endif
+
+}  // namespace
+}  // namespace tavrel::test

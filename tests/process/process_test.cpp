@@ -1,0 +1,145 @@
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QStringList>
+#include <algorithm>
+
+#include "support/fixtures.h"
+#include "support/temporary_folder.h"
+
+namespace tavrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kPatience = 60000;
+
+class ProcessTest : public testing::Test {
+ protected:
+  /// Runs the program to its end while its user plays the commands.
+  void Run(const QStringList& commands, const QString& program = DRIVEN_WRITER) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("HOME", QString::fromStdString(home_.Path().string()));
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    environment.remove("XDG_CONFIG_HOME");
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(QString::fromStdString(home_.Path().string()));
+    process.start(program, commands);
+    ASSERT_TRUE(process.waitForFinished(kPatience)) << "the program does not end";
+    ASSERT_EQ(process.exitStatus(), QProcess::NormalExit);
+    status_ = process.exitCode();
+    output_ = process.readAllStandardOutput().toStdString();
+  }
+
+  bool Says(const std::string& text) const { return output_.find(text) != std::string::npos; }
+
+  const fs::path folder_ = fs::path("Documents") / "Tavrel Writer";
+  TemporaryFolder home_;
+  int status_ = -1;
+  std::string output_;
+};
+
+TEST_F(ProcessTest, TheFirstStartMakesTheFolderWithSettingsAndTheSampleProject) {
+  Run({"exit"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(output_, "");
+  EXPECT_TRUE(home_.Has(folder_ / "tavrel.ini"));
+  EXPECT_TRUE(home_.Has(folder_ / "Writing for the iPod.dat"));
+}
+
+TEST_F(ProcessTest, ADeletedSampleProjectStaysDeleted) {
+  home_.Write(folder_ / "Guide.dat", kGuide);
+  Run({"exit"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_FALSE(home_.Has(folder_ / "Writing for the iPod.dat"));
+}
+
+TEST_F(ProcessTest, TheSampleProjectIsStoredUnchangedByASave) {
+  Run({"close"});
+  const std::string sample = home_.Read(folder_ / "Writing for the iPod.dat");
+  Run({"open=Writing for the iPod", "save", "close"});
+  EXPECT_TRUE(Says("Project saved...    "));
+  EXPECT_EQ(home_.Read(folder_ / "Writing for the iPod.dat"), sample);
+}
+
+TEST_F(ProcessTest, APortableCopyKeepsToItsOwnFolder) {
+  home_.Write("portable/tavrel.ini", "a\nb\nc\nd\n\n\n\n\n\n0\n\n\n\n\n\n\n\n\n\n\n");
+  home_.Write("portable/Guide.dat", kGuide);
+  fs::copy_file(DRIVEN_WRITER, home_.Path() / "portable/writer");
+  Run({"open=Guide", "title=Moved", "save", "close"},
+      QString::fromStdString((home_.Path() / "portable/writer").string()));
+  EXPECT_EQ(status_, 0);
+  EXPECT_NE(home_.Read("portable/Guide.dat").find("<title>Moved</title>"), std::string::npos);
+  EXPECT_FALSE(home_.Has(folder_));
+}
+
+TEST_F(ProcessTest, ExitAsksOnlyWhileADocumentIsOpen) {
+  home_.Write(folder_ / "Guide.dat", kGuide);
+  Run({"open=Guide", "title=lost", "exit"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(output_,
+            "message: Tavrel Writer: If you exit without saving, you will lose    \n"
+            "any changes to this project. Continue?    \n");
+  EXPECT_EQ(home_.Read(folder_ / "Guide.dat"), kGuide);
+}
+
+TEST_F(ProcessTest, TheCloseBoxEndsTheProgramWithoutAWord) {
+  home_.Write(folder_ / "Guide.dat", kGuide);
+  Run({"open=Guide", "title=lost", "close"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(output_, "");
+  EXPECT_EQ(home_.Read(folder_ / "Guide.dat"), kGuide);
+}
+
+TEST_F(ProcessTest, ASettingsFileOfNineteenLinesStopsTheStart) {
+  std::string lines;
+  for (int line = 1; line <= 19; ++line) lines += "\r\n";
+  home_.Write(folder_ / "tavrel.ini", lines);
+  Run({});
+  EXPECT_EQ(status_, 1);
+  EXPECT_TRUE(Says("tavrel.ini"));
+  EXPECT_TRUE(Says("twentieth line"));
+  EXPECT_EQ(home_.Read(folder_ / "tavrel.ini"), lines);
+}
+
+TEST_F(ProcessTest, ADamagedDocumentEndsTheProgramAndStaysAsItIs) {
+  const std::string damaged = "\r\n 1 ,<title>good</title>\r\n 1001 ,<title>x</title>\r\n";
+  home_.Write(folder_ / "Bad.dat", damaged);
+  home_.Write(folder_ / "Guide.dat", kGuide);
+  Run({"open=Guide", "title=of Guide", "open=Bad"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_TRUE(Says("Bad.dat"));
+  EXPECT_TRUE(Says("1001"));
+  EXPECT_EQ(home_.Read(folder_ / "Bad.dat"), damaged);
+  EXPECT_EQ(home_.Read(folder_ / "Guide.dat"), kGuide);
+  const auto files = home_.Files();
+  EXPECT_TRUE(std::none_of(files.begin(), files.end(),
+                           [](const auto& file) { return file.first.find("rescued") != std::string::npos; }));
+}
+
+TEST_F(ProcessTest, WhatWasTypedIsRescuedWhenSavingFails) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  home_.Write(folder_ / "Trio (rescued).dat", "an earlier one");
+  Run({"open=Trio  ", "title=Typed", "block=Trio.dat", "save"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_TRUE(Says("Trio.dat\ncould not be written"));
+  EXPECT_TRUE(Says("Trio 2 (rescued).dat"));
+  EXPECT_EQ(home_.Read(folder_ / "Trio (rescued).dat"), "an earlier one");
+  EXPECT_EQ(home_.Read(folder_ / "Trio 2 (rescued).dat"),
+            "\r\n 1 ,<title>Typed</title><text>one</text>\r\n 2 ,<title>B</title><text>two</text>\r\n"
+            " 3 ,<title>C</title><text>three</text>\r\n");
+}
+
+TEST_F(ProcessTest, WhatWasTypedIsRescuedIntoTheHomeFolderWhenTheProgramsFolderIsGone) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  Run({"open=Trio", "title=Typed", "vanish", "save"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_TRUE(Says("could not be opened"));
+  EXPECT_TRUE(Says("Trio (rescued).dat"));
+  EXPECT_NE(home_.Read("Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace tavrel::test

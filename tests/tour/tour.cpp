@@ -1,0 +1,189 @@
+#include "tour/tour.h"
+
+#include <QAbstractButton>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPixmap>
+#include <iostream>
+#include <stdexcept>
+
+#include "core/shell/program_folder.h"
+#include "core/text/file_names.h"
+#include "core/text/text_files.h"
+#include "platform/system_platform.h"
+#include "support/user.h"
+#include "ui/controls/grid.h"
+#include "ui/controls/text_conversion.h"
+#include "ui/shell/sample_project.h"
+
+namespace tavrel::test {
+
+namespace fs = std::filesystem;
+
+Tour::Tour(const fs::path& output)
+    : output_(fs::absolute(output)), platform_(MakeSystemPlatform()), app_{state_, *platform_, messages_, program_} {
+  fs::remove_all(output_ / "pictures");
+  fs::remove_all(output_ / "Tavrel Writer");
+  fs::create_directories(output_ / "pictures");
+  state_.ProgramFolder = output_ / "Tavrel Writer";
+}
+
+bool Tour::Play() {
+  StartProgram();
+  MakeProject();
+  WritePages();
+  SaveProject();
+  PublishProject();
+  SaveUnderAnotherName();
+  ReadTheSample();
+  LookAtTheOtherDialogs();
+
+  for (const QString& fault : robot_.Faults()) std::cout << "fault: " << fault.toStdString() << '\n';
+  for (const std::string& failure : program_.Failures) std::cout << "run-time error: " << failure << '\n';
+  if (robot_.StepsLeft() > 0) std::cout << "fault: a window that was expected did not come\n";
+  const bool played = robot_.Faults().empty() && program_.Failures.empty() && robot_.StepsLeft() == 0;
+  if (played) PrintNotes();
+  return played;
+}
+
+void Tour::StartProgram() {
+  EnterProgramFolder(state_.ProgramFolder);
+  InstallSampleProject(state_.ProgramFolder, *platform_);
+  window_ = std::make_unique<Main>(app_);
+  program_.Run([this] { window_->Form_Load(); });
+  window_->show();
+  ActivateWindow(*window_);
+  TakePicture(*window_, "start");
+}
+
+void Tour::MakeProject() {
+  robot_.Expect("NewDoc", [this](QWidget& dialog) {
+    TypeInto(dialog, "Text1", "City walk");
+    Click(dialog, "Check1");
+    Click(dialog, "Check2");
+    TakePicture(dialog, "new-project");
+    Click(dialog, "Command1");
+  });
+  Choose("FileNew");
+}
+
+void Tour::WritePages() {
+  WritePage(1, "City walk", "Where the walk begins",
+            "An hour through the old town.\n\nStart at <the fountain>, or see <all stops>.\n");
+  WriteLink(1, "The fountain", "3");
+  WriteLink(2, "All stops", "2");
+  WritePage(2, "All stops", "Contents", "From the fountain to the caf\u00E9 by the river.");
+  WriteLink(1, "The fountain", "3");
+  WriteLink(2, "The caf\u00E9", "4");
+  WriteLink(3, "Back to the start", "1");
+  WritePage(3, "The fountain", "First stop",
+            "Five stone fish have spat water here since 1712. The sixth was stolen by students.\n\nGo on down Mill "
+            "Lane to <the caf\u00E9>.");
+  WriteLink(1, "The caf\u00E9", "4");
+  WriteLink(2, "All stops", "2");
+  WritePage(4, "The caf\u00E9", "Last stop", "Sit by the window: the swans come at four.");
+  WriteLink(1, "All stops", "2");
+  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), 1);
+  Settle();
+  TakePicture(*window_, "page");
+}
+
+void Tour::SaveProject() {
+  AnswerMessage("saved", "OK");
+  Choose("FileSave");
+}
+
+void Tour::PublishProject() {
+  robot_.Expect("Publish", [this](QWidget& dialog) {
+    Click(dialog, "Check1");
+    TakePicture(dialog, "publish");
+    Click(dialog, "Command2");
+  });
+  AnswerMessage("published", "OK");
+  Choose("ToolsPublish");
+}
+
+void Tour::SaveUnderAnotherName() {
+  robot_.Expect("SaveAs", [this](QWidget& dialog) {
+    TypeInto(dialog, "Text1", "City walk by night");
+    TakePicture(dialog, "save-as");
+    Click(dialog, "Command1");
+  });
+  Choose("FileSaveAs");
+}
+
+void Tour::ReadTheSample() {
+  AnswerMessage("open-question", "OK");
+  robot_.Expect("OpenDoc", [this](QWidget& dialog) {
+    ClickListRow(Find<QListWidget>(dialog, "List1"), "Writing for the iPod");
+    TakePicture(dialog, "open-project");
+    Click(dialog, "Command1");
+  });
+  Choose("FileOpen");
+  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), 8);
+  Settle();
+  TakePicture(*window_, "sample");
+}
+
+void Tour::LookAtTheOtherDialogs() {
+  robot_.Expect("DeleteDoc", [this](QWidget& dialog) {
+    ClickListRow(Find<QListWidget>(dialog, "List1"), "City walk by night");
+    TakePicture(dialog, "delete-project");
+    Click(dialog, "Command1");
+  });
+  Choose("FileDelete");
+  robot_.Expect("Skins", [this](QWidget& dialog) {
+    TakePicture(dialog, "customise");
+    Click(dialog, "Command1");
+  });
+  Choose("HelpCustomise");
+  AnswerMessage("close-question", "OK");
+  Choose("FileClose");
+}
+
+void Tour::Choose(const QString& menu_item) {
+  ChooseMenu(*window_, menu_item);
+  ActivateWindow(*window_);
+}
+
+void Tour::WritePage(int number, const QString& title, const QString& note, const QString& text) {
+  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), number);
+  TypeInto(*window_, "Text3", title);
+  TypeInto(*window_, "Text4", note);
+  TypeInto(*window_, "Text1", text);
+}
+
+void Tour::WriteLink(int row, const QString& text, const QString& target) {
+  ClickRow(Find<Grid>(*window_, "MSFlexGrid1"), row);
+  TypeInto(*window_, "Text5", text);
+  TypeInto(*window_, "Combo1", target + "\n");
+}
+
+void Tour::AnswerMessage(const QString& picture, const QString& button) {
+  robot_.Expect("MessageBox", [this, picture, button](QWidget& box) {
+    TakePicture(box, picture);
+    for (QAbstractButton* candidate : box.findChildren<QAbstractButton*>()) {
+      if (candidate->text().remove('&') == button) return Click(*candidate);
+    }
+    throw std::runtime_error("the message has no button " + button.toStdString());
+  });
+}
+
+void Tour::TakePicture(QWidget& window, const QString& name) {
+  Settle();
+  const QString file = QString("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
+  const fs::path path = output_ / "pictures" / ToPath(file);
+  if (!window.grab().save(ToText(path))) throw std::runtime_error("cannot write " + path.string());
+  std::cout << "picture: " << path.string() << std::endl;
+}
+
+void Tour::PrintNotes() const {
+  const fs::path folder = state_.ProgramFolder / "City walk";
+  std::cout << "project: " << (state_.ProgramFolder / "City walk.dat").string() << '\n';
+  for (const FolderFile& note : ListFiles(folder, ".txt", platform_->SystemCodePage())) {
+    std::cout << "note: " << (folder / note.Name).string() << '\n';
+  }
+  std::cout << "\nThe first note reads:\n" << ReadWholeFile(folder / "z001.txt");
+}
+
+}  // namespace tavrel::test

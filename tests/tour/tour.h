@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <filesystem>
+#include <memory>
+
+#include "core/document/global.h"
+#include "core/platform.h"
+#include "support/recording.h"
+#include "support/robot.h"
+#include "ui/app.h"
+#include "ui/controls/message_box.h"
+#include "ui/main/main_window.h"
+
+namespace tavrel::test {
+
+/// A whole job in the real windows: a project is made, written, saved and published.
+class Tour {
+ public:
+  /// Pictures and the tour's own program folder go into `output`, which is emptied first.
+  explicit Tour(const std::filesystem::path& output);
+
+  /// Plays all of it. Throws, or returns false after saying why, if a window did not behave.
+  bool Play();
+
+ private:
+  void StartProgram();
+  void MakeProject();
+  void WritePages();
+  void SaveProject();
+  void PublishProject();
+  void SaveUnderAnotherName();
+  void ReadTheSample();
+  void LookAtTheOtherDialogs();
+
+  void Choose(const QString& menu_item);
+  void WritePage(int number, const QString& title, const QString& note, const QString& text);
+  void WriteLink(int row, const QString& text, const QString& target);
+  void AnswerMessage(const QString& picture, const QString& button);
+  void TakePicture(QWidget& window, const QString& name);
+  void PrintNotes() const;
+
+  std::filesystem::path output_;
+  std::unique_ptr<Platform> platform_;
+  Global state_;
+  MessageBoxes messages_;
+  RecordedProgram program_;
+  App app_;
+  Robot robot_;
+  std::unique_ptr<Main> window_;
+  int pictures_ = 0;
+};
+
+}  // namespace tavrel::test

@@ -1,0 +1,119 @@
+#include "support/window_test.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMessageBox>
+
+#include <vector>
+
+namespace tavrel::test {
+namespace {
+
+/// The boxes that people see, answered by clicks and keys.
+class MessageBoxesTest : public WindowTest {
+ protected:
+  using Step = std::function<void(QMessageBox& box)>;
+
+  bool Show(const Message& message, const Step& step) {
+    Player.Expect("MessageBox", [&](QWidget& window) { step(dynamic_cast<QMessageBox&>(window)); });
+    return boxes_.Show(&Window(), message);
+  }
+
+  static void Press(const QMessageBox& box, QMessageBox::StandardButton button) {
+    Click(*box.button(button));
+  }
+
+  MessageBoxes boxes_;
+};
+
+const Message kQuestion = {
+    "Closing the document does not save it,    \r\nso any changes will be lost. Continue?    ",
+    Buttons::OkCancel, Icon::Question, "Tavrel Writer"};
+const Message kRefusal = {"Nothing to save!    ", Buttons::Ok, Icon::Exclamation, "Oops!"};
+
+TEST_F(MessageBoxesTest, AQuestionShowsItsLinesWithTheirBlanksAndTwoButtons) {
+  EXPECT_TRUE(Show(kQuestion, [this](QMessageBox& box) {
+    EXPECT_EQ(box.text(),
+              "Closing the document does not save it,    \nso any changes will be lost. Continue?    ");
+    EXPECT_EQ(box.windowTitle(), "Tavrel Writer");
+    EXPECT_EQ(box.icon(), QMessageBox::Question);
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Ok | QMessageBox::Cancel);
+    EXPECT_EQ(box.parentWidget(), &Window());
+    Press(box, QMessageBox::Ok);
+  }));
+}
+
+TEST_F(MessageBoxesTest, AMessageHasOneButton) {
+  EXPECT_TRUE(Show(kRefusal, [](QMessageBox& box) {
+    EXPECT_EQ(box.text(), "Nothing to save!    ");
+    EXPECT_EQ(box.windowTitle(), "Oops!");
+    EXPECT_EQ(box.icon(), QMessageBox::Warning);
+    EXPECT_EQ(box.standardButtons(), QMessageBox::Ok);
+    Press(box, QMessageBox::Ok);
+  }));
+}
+
+TEST_F(MessageBoxesTest, EveryIconIsShown) {
+  const std::vector<std::pair<Icon, QMessageBox::Icon>> icons = {
+      {Icon::None, QMessageBox::NoIcon},
+      {Icon::Information, QMessageBox::Information},
+      {Icon::Question, QMessageBox::Question},
+      {Icon::Exclamation, QMessageBox::Warning},
+      {Icon::Critical, QMessageBox::Critical}};
+  for (const auto& [icon, shown] : icons) {
+    Show({"Text", Buttons::Ok, icon, "Title"}, [&](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), shown);
+      Press(box, QMessageBox::Ok);
+    });
+  }
+}
+
+TEST_F(MessageBoxesTest, MarkupIsShownAsItIs) {
+  Show({"<b>a</b> &amp; b  ", Buttons::Ok, Icon::None, "Title"}, [](QMessageBox& box) {
+    const auto& label = Find<QLabel>(box, "qt_msgbox_label");
+    EXPECT_EQ(label.text(), "<b>a</b> &amp; b  ");
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    Press(box, QMessageBox::Ok);
+  });
+}
+
+TEST_F(MessageBoxesTest, LettersOutsidePlainAsciiAreShown) {
+  Show({"Caf\u00e9", Buttons::Ok, Icon::None, "Title"}, [](QMessageBox& box) {
+    EXPECT_EQ(box.text(), QString::fromUtf8("Caf\u00e9"));
+    Press(box, QMessageBox::Ok);
+  });
+}
+
+TEST_F(MessageBoxesTest, CancelEscAndTheFrameAnswerNo) {
+  EXPECT_FALSE(Show(kQuestion, [](QMessageBox& box) { Press(box, QMessageBox::Cancel); }));
+  EXPECT_FALSE(Show(kQuestion, [](QMessageBox& box) { PressKey(box, Qt::Key_Escape); }));
+  EXPECT_FALSE(Show(kQuestion, [](QMessageBox& box) { box.close(); }));
+}
+
+TEST_F(MessageBoxesTest, EnterAnswersOk) {
+  for (const Message& message : {kQuestion, kRefusal}) {
+    EXPECT_TRUE(Show(message, [](QMessageBox& box) { PressKey(box, Qt::Key_Return); }));
+  }
+}
+
+TEST_F(MessageBoxesTest, AMessageIsDismissedByEscAndTheFrame) {
+  EXPECT_TRUE(Show(kRefusal, [](QMessageBox& box) { PressKey(box, Qt::Key_Escape); }));
+  EXPECT_TRUE(Show(kRefusal, [](QMessageBox& box) { box.close(); }));
+}
+
+TEST_F(MessageBoxesTest, TheMainWindowShowsThem) {
+  App app{State, System, boxes_, Program};
+  Main window(app);
+  window.show();
+  QString text;
+  Player.Expect("MessageBox", [&](QWidget& box) {
+    text = dynamic_cast<QMessageBox&>(box).text();
+    EXPECT_EQ(box.parentWidget(), &window);
+    PressKey(box, Qt::Key_Return);
+  });
+  ChooseMenu(window, "FileClose");
+  EXPECT_EQ(text, "Nothing to close!    ");
+}
+
+}  // namespace
+}  // namespace tavrel::test
