@@ -1,8 +1,8 @@
-#include "first_paint.h"
-
 #include <QApplication>
 #include <QMainWindow>
 #include <QMenuBar>
+
+#include "first_paint.h"
 
 /// The least that a program with a main window can be. With the argument "menu" it has a menu bar with one
 /// word, for which the toolkit sets up its fonts and picture formats.

@@ -1,10 +1,3 @@
-#include "core/document/document_file.h"
-#include "core/ipod/note_writer.h"
-#include "platform/system_platform.h"
-#include "rows.h"
-#include "support/full_size_document.h"
-#include "support/temporary_folder.h"
-
 #include <benchmark/benchmark.h>
 #include <cerrno>
 #include <fcntl.h>
@@ -16,6 +9,13 @@
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+
+#include "core/document/document_file.h"
+#include "core/ipod/note_writer.h"
+#include "platform/system_platform.h"
+#include "rows.h"
+#include "support/full_size_document.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::bench {
 namespace {

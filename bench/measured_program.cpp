@@ -1,6 +1,3 @@
-#include "first_paint.h"
-#include "ui/shell/start.h"
-
 #include <QAction>
 #include <QApplication>
 #include <QListWidget>
@@ -8,6 +5,9 @@
 #include <QTimer>
 
 #include <cstdlib>
+
+#include "first_paint.h"
+#include "ui/shell/start.h"
 
 namespace {
 

@@ -1,3 +1,9 @@
+#include <QApplication>
+#include <QEvent>
+#include <QPlainTextEdit>
+
+#include <stdexcept>
+
 #include "core/document/document_file.h"
 #include "rows.h"
 #include "support/fake_platform.h"
@@ -5,12 +11,6 @@
 #include "support/recording.h"
 #include "support/temporary_folder.h"
 #include "ui/main/main_window.h"
-
-#include <QApplication>
-#include <QEvent>
-#include <QPlainTextEdit>
-
-#include <stdexcept>
 
 namespace tavrel::bench {
 namespace {

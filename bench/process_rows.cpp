@@ -1,13 +1,13 @@
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+
 #include "core/document/document_file.h"
 #include "platform/system_platform.h"
 #include "rows.h"
 #include "started_program.h"
 #include "support/full_size_document.h"
 #include "support/temporary_folder.h"
-
-#include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 
 namespace tavrel::bench {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ratios.h"
-
 #include <vector>
+
+#include "ratios.h"
 
 namespace tavrel::bench {
 

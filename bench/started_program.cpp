@@ -1,7 +1,5 @@
 #include "started_program.h"
 
-#include "ratios.h"
-
 #include <array>
 #include <cerrno>
 #include <cstdlib>
@@ -11,6 +9,8 @@
 #include <sys/wait.h>
 #include <system_error>
 #include <unistd.h>
+
+#include "ratios.h"
 
 namespace tavrel::bench {
 namespace {

@@ -1,10 +1,10 @@
-#include "rows.h"
-
 #include <QApplication>
 
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+
+#include "rows.h"
 
 /// Prints every figure as a ratio to the raw cost of the same work in the same run. How fast the machine is
 /// never makes it fail.

@@ -1,9 +1,9 @@
+#include <algorithm>
+#include <memory>
+
 #include "core/document/document_file.h"
 #include "core/text/run_time_error.h"
 #include "expect.h"
-
-#include <algorithm>
-#include <memory>
 
 using namespace tavrel;
 using namespace tavrel::fuzz;

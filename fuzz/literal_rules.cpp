@@ -1,10 +1,10 @@
 #include "literal_rules.h"
 
-#include "core/text/run_time_error.h"
-
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+
+#include "core/text/run_time_error.h"
 
 namespace tavrel::fuzz {
 namespace {

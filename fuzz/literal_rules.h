@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
+
 #include "core/document/global.h"
 #include "core/ipod/note_writer.h"
-
-#include <string>
 
 /// The rules for elements and notes written down step by step, one character at a time and with positions
 /// from 1, for comparison with the code that the program runs.

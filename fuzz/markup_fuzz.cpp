@@ -1,9 +1,9 @@
+#include <array>
+#include <string>
+
 #include "core/document/markup.h"
 #include "expect.h"
 #include "literal_rules.h"
-
-#include <array>
-#include <string>
 
 using namespace tavrel;
 using namespace tavrel::fuzz;

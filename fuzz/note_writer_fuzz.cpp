@@ -1,12 +1,12 @@
-#include "core/ipod/note_writer.h"
-#include "core/text/run_time_error.h"
-#include "expect.h"
-#include "literal_rules.h"
-
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+
+#include "core/ipod/note_writer.h"
+#include "core/text/run_time_error.h"
+#include "expect.h"
+#include "literal_rules.h"
 
 using namespace tavrel;
 using namespace tavrel::fuzz;

@@ -1,11 +1,11 @@
+#include <algorithm>
+#include <array>
+#include <string>
+
 #include "core/document/page_record.h"
 #include "core/text/numbers.h"
 #include "expect.h"
 #include "literal_rules.h"
-
-#include <algorithm>
-#include <array>
-#include <string>
 
 using namespace tavrel;
 using namespace tavrel::fuzz;

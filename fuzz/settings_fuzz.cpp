@@ -1,14 +1,14 @@
-#include "core/shell/settings.h"
-#include "core/text/run_time_error.h"
-#include "expect.h"
-#include "support/fake_platform.h"
-#include "support/temporary_folder.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <string>
+
+#include "core/shell/settings.h"
+#include "core/text/run_time_error.h"
+#include "expect.h"
+#include "support/fake_platform.h"
+#include "support/temporary_folder.h"
 
 using namespace tavrel;
 using namespace tavrel::fuzz;

@@ -1,11 +1,10 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 
 #include "platform/file_layer.h"
 #include "platform/system_platform.h"
@@ -20,9 +19,13 @@ namespace fs = std::filesystem;
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kPermissionBits = 07777;
 
-std::error_code LastError() { return {errno, std::generic_category()}; }
+std::error_code LastError() {
+  return {errno, std::generic_category()};
+}
 
-std::error_code Result(int result) { return result < 0 ? LastError() : std::error_code(); }
+std::error_code Result(int result) {
+  return result < 0 ? LastError() : std::error_code();
+}
 
 class UnixFiles final : public FileLayer {
  public:
@@ -99,6 +102,8 @@ FileLayer& SystemFiles() {
   return files;
 }
 
-std::unique_ptr<Platform> MakeSystemPlatform() { return std::make_unique<UnixPlatform>(); }
+std::unique_ptr<Platform> MakeSystemPlatform() {
+  return std::make_unique<UnixPlatform>();
+}
 
 }  // namespace tavrel

@@ -14,7 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsOctalDigit(char c) { return c >= '0' && c <= '7'; }
+bool IsOctalDigit(char c) {
+  return c >= '0' && c <= '7';
+}
 
 /// Mount tables write blanks, tabs, line feeds and backslashes as a backslash and three octal digits.
 std::string Unescaped(const std::string& field) {
@@ -39,7 +41,8 @@ bool IsBelow(std::string_view folder, std::string_view path) {
 
 template <std::size_t Count>
 bool IsBelowAny(const std::array<std::string_view, Count>& folders, std::string_view path) {
-  return std::any_of(folders.begin(), folders.end(), [&](std::string_view folder) { return IsBelow(folder, path); });
+  return std::any_of(folders.begin(), folders.end(),
+                     [&](std::string_view folder) { return IsBelow(folder, path); });
 }
 
 /// One line of a mount table.
@@ -52,11 +55,11 @@ struct Mount {
 /// Whether a person would call it a disk: a device of its own outside the system's inner folders, or whatever
 /// is mounted where people mount things, such as a folder of another computer.
 bool IsDisk(const Mount& mount) {
-  constexpr std::array<std::string_view, 9> kInnerFolders = {"/boot", "/dev", "/etc", "/proc", "/snap",
+  constexpr std::array<std::string_view, 9> kInnerFolders = {"/boot", "/dev", "/etc", "/proc",    "/snap",
                                                              "/sys",  "/usr", "/var", "/run/user"};
   constexpr std::array<std::string_view, 3> kMountFolders = {"/media", "/mnt", "/run/media"};
-  constexpr std::array<std::string_view, 9> kPseudoTypes = {"autofs", "cgroup",   "cgroup2", "devpts", "devtmpfs",
-                                                            "proc",   "squashfs", "sysfs",   "tmpfs"};
+  constexpr std::array<std::string_view, 9> kPseudoTypes = {
+      "autofs", "cgroup", "cgroup2", "devpts", "devtmpfs", "proc", "squashfs", "sysfs", "tmpfs"};
   if (std::find(kPseudoTypes.begin(), kPseudoTypes.end(), mount.Type) != kPseudoTypes.end()) return false;
   const bool own_device = mount.Device.starts_with("/dev/") && !IsBelowAny(kInnerFolders, mount.Point);
   return own_device || IsBelowAny(kMountFolders, mount.Point);
@@ -74,7 +77,8 @@ std::vector<Volume> MountedVolumes(const fs::path& mount_table) {
     mount.Point = Unescaped(mount.Point);
     if (!IsDisk(mount)) continue;
     const fs::path root = mount.Point;
-    const bool known = std::any_of(volumes.begin(), volumes.end(), [&](const Volume& v) { return v.Root == root; });
+    const bool known =
+        std::any_of(volumes.begin(), volumes.end(), [&](const Volume& v) { return v.Root == root; });
     if (!known) volumes.push_back({PathText(root), root});
   }
   return volumes;

@@ -11,7 +11,8 @@ namespace tavrel {
 /// points to replaced. Throws FileError.
 void WriteWholeFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);
 
-/// Creates or replaces a file in place; removes it again if it cannot be written to its end. Throws FileError.
+/// Creates or replaces a file in place; removes it again if it cannot be written to its end. Throws
+/// FileError.
 void WritePlainFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);
 
 }  // namespace tavrel

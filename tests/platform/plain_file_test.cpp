@@ -1,13 +1,13 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+
 #include "core/text/run_time_error.h"
 #include "platform/recording_files.h"
 #include "platform/whole_file.h"
 #include "support/failing_files.h"
 #include "support/temporary_folder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <map>
-#include <string>
 
 namespace tavrel::test {
 namespace {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/file_layer.h"
-
 #include <string>
 #include <vector>
+
+#include "platform/file_layer.h"
 
 namespace tavrel::test {
 

@@ -1,8 +1,8 @@
-#include "platform/file_layer.h"
-#include "support/temporary_folder.h"
-
 #include <gtest/gtest.h>
 #include <unistd.h>
+
+#include "platform/file_layer.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,11 +1,11 @@
-#include "core/text/run_time_error.h"
-#include "platform/system_platform.h"
-#include "support/temporary_folder.h"
-
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "core/text/run_time_error.h"
+#include "platform/system_platform.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,10 +1,10 @@
 #include "platform/unix_volumes.h"
 
-#include "support/temporary_folder.h"
-
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
+
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,8 +1,3 @@
-#include "core/text/run_time_error.h"
-#include "platform/recording_files.h"
-#include "platform/whole_file.h"
-#include "support/temporary_folder.h"
-
 #include <csignal>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -12,6 +7,11 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "core/text/run_time_error.h"
+#include "platform/recording_files.h"
+#include "platform/whole_file.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

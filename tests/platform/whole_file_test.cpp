@@ -1,17 +1,17 @@
 #include "platform/whole_file.h"
 
-#include "core/text/file_names.h"
-#include "core/text/run_time_error.h"
-#include "platform/recording_files.h"
-#include "support/failing_files.h"
-#include "support/temporary_folder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <optional>
 #include <string>
 #include <tuple>
+
+#include "core/text/file_names.h"
+#include "core/text/run_time_error.h"
+#include "platform/recording_files.h"
+#include "support/failing_files.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

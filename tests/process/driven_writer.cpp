@@ -1,9 +1,10 @@
-#include <QApplication>
 #include <QAbstractButton>
+#include <QApplication>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QTimer>
+
 #include <filesystem>
 #include <iostream>
 
@@ -27,7 +28,8 @@ QMainWindow* MainWindow() {
 void AnswerMessages(Robot& robot) {
   robot.Expect("MessageBox", [&robot](QWidget& widget) {
     auto& box = dynamic_cast<QMessageBox&>(widget);
-    std::cout << "message: " << box.windowTitle().toStdString() << ": " << box.text().toStdString() << std::endl;
+    std::cout << "message: " << box.windowTitle().toStdString() << ": " << box.text().toStdString()
+              << std::endl;
     AnswerMessages(robot);
     Click(*box.button(QMessageBox::Ok));
   });
@@ -47,8 +49,8 @@ void ChooseDocument(QTimer& waiting, const QString& name) {
       Qt::QueuedConnection);
 }
 
-/// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder in a
-/// file's place and vanish moves the program's folder away.
+/// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder
+/// in a file's place and vanish moves the program's folder away.
 void Play(QMainWindow& window, const QString& command) {
   const QString argument = command.section('=', 1);
   if (command.startsWith("open=")) {
@@ -86,7 +88,8 @@ int main(int argc, char* argv[]) {
     QMainWindow* window = MainWindow();
     if (window == nullptr || commands.isEmpty()) return;
     const QString command = commands.takeFirst();
-    QMetaObject::invokeMethod(window, [window, command] { Play(*window, command); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        window, [window, command] { Play(*window, command); }, Qt::QueuedConnection);
   });
   user.start(50);
   return tavrel::RunTavrelWriter(application);

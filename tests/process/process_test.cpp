@@ -1,9 +1,9 @@
-#include <gtest/gtest.h>
-
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QStringList>
+
 #include <algorithm>
+#include <gtest/gtest.h>
 
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"

@@ -19,7 +19,8 @@ std::error_code FailingFiles::CreateOrEmpty(const fs::path& file, int& handle) {
 }
 
 std::error_code FailingFiles::Write(int handle, std::string_view bytes, std::size_t& written) {
-  return Fails(Operation::Write) ? error_ : SystemFiles().Write(handle, bytes.substr(0, most_per_write_), written);
+  return Fails(Operation::Write) ? error_
+                                 : SystemFiles().Write(handle, bytes.substr(0, most_per_write_), written);
 }
 
 std::error_code FailingFiles::Flush(int handle) {
@@ -43,6 +44,8 @@ std::error_code FailingFiles::Remove(const fs::path& file) {
   return Fails(Operation::Remove) ? error_ : SystemFiles().Remove(file);
 }
 
-bool FailingFiles::Fails(Operation operation) { return operation == failing_ && --calls_left_ == 0; }
+bool FailingFiles::Fails(Operation operation) {
+  return operation == failing_ && --calls_left_ == 0;
+}
 
 }  // namespace tavrel::test

@@ -4,7 +4,8 @@ namespace tavrel::test {
 
 const std::string_view kGuide =
     "\r\n"
-    " 1 ,<title>One</title><note>n1</note><text>Alpha</text><link><linktext>Two</linktext><linkto>002</linkto>"
+    " 1 "
+    ",<title>One</title><note>n1</note><text>Alpha</text><link><linktext>Two</linktext><linkto>002</linkto>"
     "<linktext>Five</linktext><linkto>005</linkto></link>\r\n"
     " 2 ,<title>Two</title><text>Beta</text><link><linktext>One</linktext><linkto>001</linkto></link>\r\n"
     " 5 ,<title>Five</title><text>Gamma</text><link><linktext>Last</linktext><linkto>999</linkto></link>\r\n"
@@ -14,7 +15,8 @@ const std::string_view kSongs =
     " 1 ,<song>Blue</song><artist>Kim Low</artist>\r\n"
     " 3 ,<playlist>Road</playlist>\r\n"
     "\r\n"
-    " 1 ,<title>Start</title><text>See <Part two></text><link><linktext>Part two</linktext><linkto>002</linkto>"
+    " 1 ,<title>Start</title><text>See <Part two></text><link><linktext>Part "
+    "two</linktext><linkto>002</linkto>"
     "</link><music>Play</music><music>M1</music>\r\n"
     " 2 ,<title>Next</title><text>End</text>\r\n";
 

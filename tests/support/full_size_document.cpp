@@ -14,7 +14,8 @@ constexpr int kMusicLinks = 99;
 std::string Text(int page) {
   std::string text;
   for (int line = 1; text.size() < kTextLength; ++line) {
-    text += "Line " + std::to_string(line) + " of page " + FormatPage(page) + ", which goes on for a while.\r\n";
+    text +=
+        "Line " + std::to_string(line) + " of page " + FormatPage(page) + ", which goes on for a while.\r\n";
   }
   text.resize(kTextLength - 1);
   while (text.back() == '\r' || text.back() == '\n' || text.back() == ' ') text.back() = '.';
@@ -28,7 +29,8 @@ std::string Page(int page) {
   fields.Body = Text(page);
   for (int link = 1; link <= kLastLink; ++link) {
     const int target = (page * 7 + link * 13) % kLastPage + 1;
-    fields.Links[static_cast<std::size_t>(link) - 1] = {"Go to page " + std::to_string(target), FormatPage(target)};
+    fields.Links[static_cast<std::size_t>(link) - 1] = {"Go to page " + std::to_string(target),
+                                                        FormatPage(target)};
   }
   fields.MusicText = "Listen";
   fields.MusicLink = MusicLinkName(page % kMusicLinks + 1);

@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include <QApplication>
+
+#include <gtest/gtest.h>
 
 /// Runs the tests inside a toolkit application that needs no display.
 int main(int argc, char* argv[]) {

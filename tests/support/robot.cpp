@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
+
 #include <algorithm>
 #include <exception>
 #include <utility>
@@ -21,11 +22,14 @@ Robot::Robot() {
   timer->start(kPollInterval);
 }
 
-void Robot::Expect(const QString& window, Step step) { steps_.push_back({window, std::move(step)}); }
+void Robot::Expect(const QString& window, Step step) {
+  steps_.push_back({window, std::move(step)});
+}
 
 void Robot::Poll() {
   QWidget* window = QApplication::activeModalWidget();
-  const bool busy = window == nullptr || std::find(playing_.begin(), playing_.end(), window) != playing_.end();
+  const bool busy =
+      window == nullptr || std::find(playing_.begin(), playing_.end(), window) != playing_.end();
   if (busy) {
     polls_without_step_ = 0;
     return;

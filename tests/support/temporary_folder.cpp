@@ -22,7 +22,8 @@ TemporaryFolder::~TemporaryFolder() {
   fs::current_path(old_current_, error);
   for (auto entry = fs::recursive_directory_iterator(path_, error); !error && entry != fs::end(entry);
        entry.increment(error)) {
-    if (entry->is_directory(error)) fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
+    if (entry->is_directory(error))
+      fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
   }
   fs::remove_all(path_, error);
 }
@@ -40,7 +41,9 @@ std::string TemporaryFolder::Read(const fs::path& name) const {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-bool TemporaryFolder::Has(const fs::path& name) const { return fs::exists(path_ / name); }
+bool TemporaryFolder::Has(const fs::path& name) const {
+  return fs::exists(path_ / name);
+}
 
 std::map<std::string, std::string> TemporaryFolder::Files() const {
   std::map<std::string, std::string> files;

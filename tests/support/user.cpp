@@ -9,6 +9,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QTest>
+
 #include <vector>
 
 #include "ui/controls/grid.h"
@@ -65,14 +66,19 @@ QPoint Middle(QListWidget& list, QListWidgetItem& item) {
 std::string NamesBelow(const QObject& parent) {
   QString names;
   for (const QObject* child : parent.findChildren<QObject*>()) {
-    if (!child->objectName().isEmpty() && !child->objectName().startsWith("qt_")) names += child->objectName() + ' ';
+    if (!child->objectName().isEmpty() && !child->objectName().startsWith("qt_"))
+      names += child->objectName() + ' ';
   }
   return names.toStdString();
 }
 
-void Click(QWidget& widget) { QTest::mouseClick(&widget, Qt::LeftButton); }
+void Click(QWidget& widget) {
+  QTest::mouseClick(&widget, Qt::LeftButton);
+}
 
-void Click(const QWidget& window, const QString& name) { Click(Find<QWidget>(window, name)); }
+void Click(const QWidget& window, const QString& name) {
+  Click(Find<QWidget>(window, name));
+}
 
 void TypeInto(QWidget& field, const QString& text) {
   QWidget* target = &field;
@@ -105,7 +111,8 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
   QMenuBar* bar = window.menuBar();
   QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menus.front()->menuAction()).center());
   for (std::size_t i = 1; i < menus.size(); ++i) {
-    QTest::mouseClick(menus[i - 1], Qt::LeftButton, {}, menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());
+    QTest::mouseClick(menus[i - 1], Qt::LeftButton, {},
+                      menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());
   }
   QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&action).center());
   for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) (*menu)->close();
@@ -114,7 +121,8 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
 
 void ActivateWindow(QWidget& window) {
   window.activateWindow();
-  if (window.isVisible() && !QTest::qWaitForWindowActive(&window)) throw std::runtime_error("the window is not active");
+  if (window.isVisible() && !QTest::qWaitForWindowActive(&window))
+    throw std::runtime_error("the window is not active");
 }
 
 void ClickRow(Grid& grid, int row) {
@@ -143,7 +151,8 @@ std::vector<std::string> Seen(const std::vector<Message>& messages) {
 }
 
 std::vector<std::string> TabOrder(QWidget& window) {
-  // A dialog counts as active from the start, through the window below it; its focus comes with its own events.
+  // A dialog counts as active from the start, through the window below it; its focus comes with its own
+  // events.
   if (!QTest::qWaitFor([&] { return window.focusWidget() != nullptr; })) return {};
   std::vector<std::string> names;
   const QWidget* first = window.focusWidget();
@@ -162,11 +171,14 @@ std::vector<std::string> NamelessControls(const QWidget& window) {
     const bool inner = name.isEmpty() || name.startsWith("qt_");
     if (inner || control->focusPolicy() == Qt::NoFocus) continue;
     const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(control);
-    if (spoken == nullptr || spoken->text(QAccessible::Name).isEmpty()) nameless.push_back(name.toStdString());
+    if (spoken == nullptr || spoken->text(QAccessible::Name).isEmpty())
+      nameless.push_back(name.toStdString());
   }
   return nameless;
 }
 
-void Settle() { QTest::qWait(20); }
+void Settle() {
+  QTest::qWait(20);
+}
 
 }  // namespace tavrel::test

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QString>
 #include <QWidget>
+
 #include <stdexcept>
 #include <string>
 #include <vector>

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
+
 #include <exception>
 #include <iostream>
 

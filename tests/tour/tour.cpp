@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPixmap>
+
 #include <iostream>
 #include <stdexcept>
 
@@ -21,7 +22,9 @@ namespace tavrel::test {
 namespace fs = std::filesystem;
 
 Tour::Tour(const fs::path& output)
-    : output_(fs::absolute(output)), platform_(MakeSystemPlatform()), app_{state_, *platform_, messages_, program_} {
+    : output_(fs::absolute(output)),
+      platform_(MakeSystemPlatform()),
+      app_{state_, *platform_, messages_, program_} {
   fs::remove_all(output_ / "pictures");
   fs::remove_all(output_ / "Tavrel Writer");
   fs::create_directories(output_ / "pictures");
@@ -76,9 +79,10 @@ void Tour::WritePages() {
   WriteLink(1, "The fountain", "3");
   WriteLink(2, "The caf\u00E9", "4");
   WriteLink(3, "Back to the start", "1");
-  WritePage(3, "The fountain", "First stop",
-            "Five stone fish have spat water here since 1712. The sixth was stolen by students.\n\nGo on down Mill "
-            "Lane to <the caf\u00E9>.");
+  WritePage(
+      3, "The fountain", "First stop",
+      "Five stone fish have spat water here since 1712. The sixth was stolen by students.\n\nGo on down Mill "
+      "Lane to <the caf\u00E9>.");
   WriteLink(1, "The caf\u00E9", "4");
   WriteLink(2, "All stops", "2");
   WritePage(4, "The caf\u00E9", "Last stop", "Sit by the window: the swans come at four.");

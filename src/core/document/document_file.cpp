@@ -74,7 +74,8 @@ Entries ReadPages(LineReader& lines) {
   Entries pages;
   while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
-    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage), Replaced(line.Record, kStoredLineBreak, kLineEnd));
+    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage),
+                       Replaced(line.Record, kStoredLineBreak, kLineEnd));
   }
   return pages;
 }
@@ -120,7 +121,8 @@ std::string DocumentText(const Global& global) {
   }
   text.append(kLineEnd);
   for (int page = 0; page <= kLastPage; ++page) {
-    if (!global.Page(page).empty()) AppendLine(text, page, Replaced(global.Page(page), kLineEnd, kStoredLineBreak));
+    if (!global.Page(page).empty())
+      AppendLine(text, page, Replaced(global.Page(page), kLineEnd, kStoredLineBreak));
   }
   return text;
 }

@@ -10,8 +10,12 @@ void ClearDocument(Global& global) {
   global.IsDocumentShown = false;
 }
 
-std::filesystem::path DocumentFile(const Global& global) { return global.ProgramFolder / global.DocPath; }
+std::filesystem::path DocumentFile(const Global& global) {
+  return global.ProgramFolder / global.DocPath;
+}
 
-std::filesystem::path DocumentName(const Global& global) { return WithoutExtension(global.DocPath); }
+std::filesystem::path DocumentName(const Global& global) {
+  return WithoutExtension(global.DocPath);
+}
 
 }  // namespace tavrel

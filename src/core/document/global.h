@@ -8,25 +8,25 @@
 
 namespace tavrel {
 
-inline constexpr int kLastPage = 999;        ///< pages are numbered 1 to 999
-inline constexpr int kLastMusicLink = 100;   ///< music links are numbered 1 to 100
-inline constexpr int kLastLink = 49;         ///< links of one page are numbered 1 to 49
-inline constexpr int kLastSetting = 20;      ///< settings are numbered 1 to 20
+inline constexpr int kLastPage = 999;       ///< pages are numbered 1 to 999
+inline constexpr int kLastMusicLink = 100;  ///< music links are numbered 1 to 100
+inline constexpr int kLastLink = 49;        ///< links of one page are numbered 1 to 49
+inline constexpr int kLastSetting = 20;     ///< settings are numbered 1 to 20
 
 /// The state that the windows share: the document in memory, the place in it and the preferences.
 struct Global {
-  std::array<std::string, 1001> Pages;       ///< page records; an empty one is no page
-  std::array<std::string, 101> MusicLinks;   ///< music link records; an empty one is no music link
-  std::filesystem::path DocPath;             ///< bare file name of the open document; empty: none is open
-  std::int16_t CurrentPage = 1;              ///< the page in the editor
-  std::int16_t CurrentLink = 1;              ///< the row of the links grid in the entry fields
-  std::string PageClipboard;                 ///< one copied page record
-  std::string FindText;                      ///< the text last searched for
-  std::filesystem::path PlanPath;            ///< bare file name of the current plan; empty: none
+  std::array<std::string, 1001> Pages;      ///< page records; an empty one is no page
+  std::array<std::string, 101> MusicLinks;  ///< music link records; an empty one is no music link
+  std::filesystem::path DocPath;            ///< bare file name of the open document; empty: none is open
+  std::int16_t CurrentPage = 1;             ///< the page in the editor
+  std::int16_t CurrentLink = 1;             ///< the row of the links grid in the entry fields
+  std::string PageClipboard;                ///< one copied page record
+  std::string FindText;                     ///< the text last searched for
+  std::filesystem::path PlanPath;           ///< bare file name of the current plan; empty: none
   std::array<std::string, kLastSetting + 1> Settings;
-  bool UseSkin = false;                      ///< background pictures are shown
-  std::filesystem::path ProgramFolder;       ///< full path of the folder with the program's own files
-  bool IsDocumentShown = false;              ///< the fields of the editor belong to the document in memory
+  bool UseSkin = false;                 ///< background pictures are shown
+  std::filesystem::path ProgramFolder;  ///< full path of the folder with the program's own files
+  bool IsDocumentShown = false;         ///< the fields of the editor belong to the document in memory
 
   bool IsDocumentOpen() const { return !DocPath.empty(); }
 

@@ -60,7 +60,9 @@ std::string BuildPage(const PageFields& fields, const CodePage& code_page) {
   return record;
 }
 
-bool IsMusicTarget(std::string_view target) { return target.starts_with('M') || target.starts_with('m'); }
+bool IsMusicTarget(std::string_view target) {
+  return target.starts_with('M') || target.starts_with('m');
+}
 
 std::string NormaliseTarget(std::string_view target) {
   return IsMusicTarget(target) ? std::string(target) : FormatPage(LeadingDigits(target));

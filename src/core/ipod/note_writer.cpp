@@ -89,7 +89,9 @@ std::string GetMusic(const Global& global, std::string_view reference) {
   return query.empty() ? std::string(kNotesMenu) : "ipod:music?" + query.substr(1);
 }
 
-std::string NoteName(int page) { return "z" + FormatPage(page) + ".txt"; }
+std::string NoteName(int page) {
+  return "z" + FormatPage(page) + ".txt";
+}
 
 std::string NoteText(const Global& global, int page, const PublishOptions& options) {
   const std::string& record = global.Page(page);
@@ -112,7 +114,8 @@ void PublishNotes(const Global& global, Platform& platform, const fs::path& fold
                   const PublishOptions& options) {
   std::error_code error;
   fs::create_directory(folder, error);
-  if (!error && !fs::is_directory(folder, error) && !error) error = std::make_error_code(std::errc::not_a_directory);
+  if (!error && !fs::is_directory(folder, error) && !error)
+    error = std::make_error_code(std::errc::not_a_directory);
   if (error) throw FileError(folder, "could not be made", error);
 
   for (int page = 1; page <= kLastPage; ++page) {

@@ -7,7 +7,9 @@ Message Question(std::string_view text) {
   return {std::string(text), Buttons::OkCancel, Icon::Question, std::string(kProgramName)};
 }
 
-Message Refusal(std::string_view text) { return {std::string(text), Buttons::Ok, Icon::Exclamation, "Oops!"}; }
+Message Refusal(std::string_view text) {
+  return {std::string(text), Buttons::Ok, Icon::Exclamation, "Oops!"};
+}
 
 }  // namespace
 
@@ -28,23 +30,33 @@ Message CloseDoesNotSave() {
 }
 
 Message ExitLosesChanges() {
-  return Question("If you exit without saving, you will lose    \r\nany changes to this project. Continue?    ");
+  return Question(
+      "If you exit without saving, you will lose    \r\nany changes to this project. Continue?    ");
 }
 
-Message NothingToClose() { return Refusal("Nothing to close!    "); }
+Message NothingToClose() {
+  return Refusal("Nothing to close!    ");
+}
 
-Message NothingToSave() { return Refusal("Nothing to save!    "); }
+Message NothingToSave() {
+  return Refusal("Nothing to save!    ");
+}
 
-Message NothingToPublish() { return Refusal("Nothing to publish!    "); }
+Message NothingToPublish() {
+  return Refusal("Nothing to publish!    ");
+}
 
 Message ProjectSaved() {
   return {"Project saved...    ", Buttons::Ok, Icon::Information, std::string(kProgramName)};
 }
 
-Message PublishFinished() { return {"Finished...    ", Buttons::Ok, Icon::Information, "Publish"}; }
+Message PublishFinished() {
+  return {"Finished...    ", Buttons::Ok, Icon::Information, "Publish"};
+}
 
 Message DriveNotAvailable(std::string_view drive) {
-  return {std::string("Drive ").append(drive).append(" not available!  "), Buttons::Ok, Icon::Critical, "Warning"};
+  return {std::string("Drive ").append(drive).append(" not available!  "), Buttons::Ok, Icon::Critical,
+          "Warning"};
 }
 
 }  // namespace tavrel::messages

@@ -14,7 +14,9 @@ namespace {
 
 constexpr std::size_t kSkinFlag = 10;
 
-std::filesystem::path SettingsFile(const Global& global) { return global.ProgramFolder / "tavrel.ini"; }
+std::filesystem::path SettingsFile(const Global& global) {
+  return global.ProgramFolder / "tavrel.ini";
+}
 
 /// Reads fields that end at a comma or at the end of a line; a field in double quotes loses them.
 class FieldReader {
@@ -73,7 +75,8 @@ void DefaultSettings(Global& global, Platform& platform) {
 void SaveSettings(Global& global, Platform& platform) {
   global.Settings[kSkinFlag] = global.UseSkin ? "1" : "0";
   std::string text;
-  for (std::size_t entry = 1; entry <= kLastSetting; ++entry) text.append(global.Settings[entry]).append("\r\n");
+  for (std::size_t entry = 1; entry <= kLastSetting; ++entry)
+    text.append(global.Settings[entry]).append("\r\n");
   platform.WriteWholeFile(SettingsFile(global), text);
 }
 

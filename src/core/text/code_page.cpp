@@ -67,15 +67,17 @@ CodePage::CodePage(const Characters& characters, const Bytes& upper)
 
 std::optional<char> CodePage::Byte(char32_t character) const {
   if (character < 0x80 && characters_[character] == character) return static_cast<char>(character);
-  const auto found = std::lower_bound(by_character_.begin(), by_character_.end(), character,
-                                      [](const auto& entry, char32_t wanted) { return entry.first < wanted; });
+  const auto found =
+      std::lower_bound(by_character_.begin(), by_character_.end(), character,
+                       [](const auto& entry, char32_t wanted) { return entry.first < wanted; });
   if (found == by_character_.end() || found->first != character) return std::nullopt;
   return found->second;
 }
 
 std::u32string CodePage::Decode(std::string_view bytes) const {
   std::u32string characters(bytes.size(), U'\0');
-  std::transform(bytes.begin(), bytes.end(), characters.begin(), [this](char byte) { return Character(byte); });
+  std::transform(bytes.begin(), bytes.end(), characters.begin(),
+                 [this](char byte) { return Character(byte); });
   return characters;
 }
 
@@ -86,8 +88,12 @@ std::string CodePage::Encode(std::u32string_view characters) const {
   return bytes;
 }
 
-std::string CodePage::Upper(std::string_view bytes) const { return Mapped(bytes, upper_); }
+std::string CodePage::Upper(std::string_view bytes) const {
+  return Mapped(bytes, upper_);
+}
 
-std::string CodePage::Lower(std::string_view bytes) const { return Mapped(bytes, lower_); }
+std::string CodePage::Lower(std::string_view bytes) const {
+  return Mapped(bytes, lower_);
+}
 
 }  // namespace tavrel

@@ -46,7 +46,9 @@ std::string CleanName(std::string_view typed) {
   return name;
 }
 
-fs::path PathFromName(std::string_view name, const CodePage& code_page) { return {code_page.Decode(name)}; }
+fs::path PathFromName(std::string_view name, const CodePage& code_page) {
+  return {code_page.Decode(name)};
+}
 
 std::string NameInCodePage(const fs::path& name, const CodePage& code_page) {
   try {
@@ -54,7 +56,8 @@ std::string NameInCodePage(const fs::path& name, const CodePage& code_page) {
   } catch (const std::exception&) {
     // Not valid text in the file system's encoding: keep what is plain.
     std::string bytes = name.string();
-    std::replace_if(bytes.begin(), bytes.end(), [](char c) { return (c & '\x80') != 0; }, '?');
+    std::replace_if(
+        bytes.begin(), bytes.end(), [](char c) { return (c & '\x80') != 0; }, '?');
     return bytes;
   }
 }
@@ -65,7 +68,8 @@ fs::path WithoutExtension(const fs::path& name) {
   return {text};
 }
 
-std::vector<FolderFile> ListFiles(const fs::path& folder, std::string_view extension, const CodePage& code_page) {
+std::vector<FolderFile> ListFiles(const fs::path& folder, std::string_view extension,
+                                  const CodePage& code_page) {
   struct Found {
     std::string SortKey;
     FolderFile File;

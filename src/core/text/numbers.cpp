@@ -9,7 +9,9 @@
 namespace tavrel {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;
@@ -52,7 +54,9 @@ std::string FormatPage(int number) {
   return (number < 0 ? "-" : "") + digits;
 }
 
-std::string MusicLinkName(int number) { return "M" + std::to_string(number); }
+std::string MusicLinkName(int number) {
+  return "M" + std::to_string(number);
+}
 
 double Value(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
@@ -62,7 +66,8 @@ double Value(std::string_view text) {
 
   double value = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (parsed.ec == std::errc::result_out_of_range) value = IsTiny(text) ? 0 : std::numeric_limits<double>::max();
+  if (parsed.ec == std::errc::result_out_of_range)
+    value = IsTiny(text) ? 0 : std::numeric_limits<double>::max();
   return negative ? -value : value;
 }
 
@@ -85,6 +90,8 @@ std::string SignedText(int number) {
   return (number < 0 ? "" : " ") + std::to_string(number);
 }
 
-std::string PrintForm(int number) { return SignedText(number) + " "; }
+std::string PrintForm(int number) {
+  return SignedText(number) + " ";
+}
 
 }  // namespace tavrel

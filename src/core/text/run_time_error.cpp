@@ -11,14 +11,16 @@ std::string NextStep(const std::error_code& error) {
       error == std::errc::read_only_file_system) {
     return "Make sure that you may write there, or choose another folder.";
   }
-  if (error == std::errc::no_such_file_or_directory) return "Look whether the file or its folder was moved or renamed.";
+  if (error == std::errc::no_such_file_or_directory)
+    return "Look whether the file or its folder was moved or renamed.";
   if (error == std::errc::is_a_directory) return "A folder has that name. Rename it or choose another name.";
   return "Check the disk and try again.";
 }
 
 }  // namespace
 
-FileError::FileError(const std::filesystem::path& file, const std::string& attempt, const std::error_code& error)
+FileError::FileError(const std::filesystem::path& file, const std::string& attempt,
+                     const std::error_code& error)
     : RunTimeError(PathText(file) + "\n" + attempt + ": " + error.message() + ".\n" + NextStep(error)) {}
 
 std::string PathText(const std::filesystem::path& path) {
@@ -27,7 +29,8 @@ std::string PathText(const std::filesystem::path& path) {
     return {text.begin(), text.end()};
   } catch (const std::exception&) {
     std::string text = path.string();
-    std::replace_if(text.begin(), text.end(), [](char c) { return (c & '\x80') != 0; }, '?');
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return (c & '\x80') != 0; }, '?');
     return text;
   }
 }

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
+
 #include <memory>
 
 #include "ui/controls/text_conversion.h"
@@ -13,8 +14,8 @@ namespace {
 
 constexpr QChar kLineFeed = u'\n';
 
-// The text box takes a lone CR or LF for a line break of its own, so it is given their pictures instead, which
-// no code page holds.
+// The text box takes a lone CR or LF for a line break of its own, so it is given their pictures instead,
+// which no code page holds.
 constexpr QChar kPictureOfCr = u'\u240D';
 constexpr QChar kPictureOfLf = u'\u240A';
 
@@ -60,7 +61,8 @@ std::string BodyField::Bytes() const {
 
 void BodyField::SetBytes(std::string_view bytes) {
   const QString text = ShownText(bytes, *code_page_);
-  const auto wrap = HasEndlessWord(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+  const auto wrap =
+      HasEndlessWord(text) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
   if (wrap != wordWrapMode()) {
     clear();
     setWordWrapMode(wrap);
@@ -68,7 +70,9 @@ void BodyField::SetBytes(std::string_view bytes) {
   setPlainText(text);
 }
 
-int BodyField::Length() const { return document()->characterCount() - 1 + document()->blockCount() - 1; }
+int BodyField::Length() const {
+  return document()->characterCount() - 1 + document()->blockCount() - 1;
+}
 
 void BodyField::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::InsertLineSeparator)) {
@@ -98,7 +102,9 @@ void BodyField::insertFromMimeData(const QMimeData* source) {
   if (source->hasText()) InsertFitted(source->text());
 }
 
-bool BodyField::canInsertFromMimeData(const QMimeData* source) const { return source->hasText(); }
+bool BodyField::canInsertFromMimeData(const QMimeData* source) const {
+  return source->hasText();
+}
 
 QMimeData* BodyField::createMimeDataFromSelection() const {
   QString text = textCursor().selectedText();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPlainTextEdit>
+
 #include <string>
 #include <string_view>
 
@@ -9,8 +10,8 @@
 namespace tavrel {
 
 /// The many-line text field over bytes of the code page. Line breaks are CR LF in the bytes and count as two
-/// characters; every other byte, also a lone CR or LF, comes back as it went in. What enters is made fit as in
-/// LineField.
+/// characters; every other byte, also a lone CR or LF, comes back as it went in. What enters is made fit as
+/// in LineField.
 class BodyField : public QPlainTextEdit {
   Q_OBJECT
 

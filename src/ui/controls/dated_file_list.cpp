@@ -26,7 +26,8 @@ void DatedFileList::Fill(const std::filesystem::path& folder, std::string_view e
 
 std::filesystem::path DatedFileList::SelectedFile() const {
   const QList<QListWidgetItem*> selected = selectedItems();
-  return selected.isEmpty() ? std::filesystem::path() : files_.at(static_cast<std::size_t>(row(selected.first())));
+  return selected.isEmpty() ? std::filesystem::path()
+                            : files_.at(static_cast<std::size_t>(row(selected.first())));
 }
 
 }  // namespace tavrel

@@ -28,9 +28,10 @@ void DriveList::SetVolumes(std::vector<Volume> volumes) {
 }
 
 void DriveList::SetDriveOf(const fs::path& folder) {
-  const auto closest = std::max_element(volumes_.begin(), volumes_.end(), [&](const Volume& a, const Volume& b) {
-    return SharedParts(a.Root, folder) < SharedParts(b.Root, folder);
-  });
+  const auto closest =
+      std::max_element(volumes_.begin(), volumes_.end(), [&](const Volume& a, const Volume& b) {
+        return SharedParts(a.Root, folder) < SharedParts(b.Root, folder);
+      });
   setCurrentIndex(static_cast<int>(std::distance(volumes_.begin(), closest)));
 }
 

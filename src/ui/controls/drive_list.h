@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+
 #include <filesystem>
 #include <vector>
 

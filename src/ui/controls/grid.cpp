@@ -33,18 +33,26 @@ Grid::Grid(QWidget* parent) : QTableView(parent), model_(new GridModel(this)) {
   connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { emit Click(cell.row() + 1); });
 }
 
-void Grid::SetCodePage(const CodePage& code_page) { model_->SetCodePage(code_page); }
+void Grid::SetCodePage(const CodePage& code_page) {
+  model_->SetCodePage(code_page);
+}
 
-void Grid::SetSize(int rows, int columns) { model_->SetSize(rows, columns); }
+void Grid::SetSize(int rows, int columns) {
+  model_->SetSize(rows, columns);
+}
 
 void Grid::SetHeading(int column, std::string_view heading, Qt::Alignment alignment) {
   model_->SetHeading(column, heading);
   model_->SetAlignment(column, alignment);
 }
 
-const std::string& Grid::TextMatrix(int row, int column) const { return model_->Text(row - 1, column); }
+const std::string& Grid::TextMatrix(int row, int column) const {
+  return model_->Text(row - 1, column);
+}
 
-void Grid::SetTextMatrix(int row, int column, std::string_view text) { model_->SetText(row - 1, column, text); }
+void Grid::SetTextMatrix(int row, int column, std::string_view text) {
+  model_->SetText(row - 1, column, text);
+}
 
 void Grid::SetCellBackColor(int row, int column, std::uint32_t colour) {
   model_->SetColour(row - 1, column, ColourOf(colour));
@@ -54,7 +62,9 @@ QColor Grid::CellBackColor(int row, int column) const {
   return model_->data(model_->index(row - 1, column), Qt::BackgroundRole).value<QBrush>().color();
 }
 
-void Grid::Clear() { model_->Clear(); }
+void Grid::Clear() {
+  model_->Clear();
+}
 
 int Grid::Row() const {
   const QModelIndexList rows = selectionModel()->selectedRows();
@@ -69,9 +79,13 @@ void Grid::SelectRow(int row) {
   setAutoScroll(scrolls);
 }
 
-void Grid::ShowRow(int row) { scrollTo(model_->index(row - 1, 0)); }
+void Grid::ShowRow(int row) {
+  scrollTo(model_->index(row - 1, 0));
+}
 
-int Grid::WidthOf(const QString& sample) const { return fontMetrics().horizontalAdvance(sample) + 2 * kCellPadding; }
+int Grid::WidthOf(const QString& sample) const {
+  return fontMetrics().horizontalAdvance(sample) + 2 * kCellPadding;
+}
 
 void Grid::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -87,6 +101,8 @@ void Grid::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) SizeRows();
 }
 
-void Grid::SizeRows() { verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding); }
+void Grid::SizeRows() {
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kCellPadding);
+}
 
 }  // namespace tavrel

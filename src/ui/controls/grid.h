@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QTableView>
+
 #include <cstdint>
 #include <string>
 #include <string_view>

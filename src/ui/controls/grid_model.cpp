@@ -44,7 +44,9 @@ void GridModel::Clear() {
   if (!cells_.empty()) emit dataChanged(index(0, 0), index(rows_ - 1, columnCount() - 1));
 }
 
-int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : rows_;
+}
 
 int GridModel::columnCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(columns_.size());

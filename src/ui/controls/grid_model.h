@@ -2,6 +2,7 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+
 #include <string>
 #include <string_view>
 #include <vector>

@@ -1,6 +1,7 @@
 #include "ui/controls/length_bar.h"
 
 #include <QPainter>
+
 #include <algorithm>
 
 namespace tavrel {
@@ -20,7 +21,9 @@ void LengthBar::SetWidth(int twips) {
   update();
 }
 
-QSize LengthBar::sizeHint() const { return {static_cast<int>(kFullWidth / kTwipsPerPixel) + 1, kHeight}; }
+QSize LengthBar::sizeHint() const {
+  return {static_cast<int>(kFullWidth / kTwipsPerPixel) + 1, kHeight};
+}
 
 void LengthBar::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);

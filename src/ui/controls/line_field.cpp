@@ -7,7 +7,10 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMetaMethod>
 #include <QMimeData>
+#include <QToolTip>
+
 #include <memory>
 
 #include "ui/controls/focus.h"
@@ -22,7 +25,9 @@ constexpr QChar kBlank = u' ';
 
 LineField::LineField(QWidget* parent) : QLineEdit(parent), code_page_(&CodePage::Windows1252()) {}
 
-std::string LineField::Bytes() const { return ToBytes(text(), *code_page_); }
+std::string LineField::Bytes() const {
+  return ToBytes(text(), *code_page_);
+}
 
 void LineField::SetBytes(std::string_view bytes) {
   setText(ToText(bytes, *code_page_));
@@ -48,7 +53,7 @@ void LineField::inputMethodEvent(QInputMethodEvent* event) {
   QInputMethodEvent fitted_event(event->preeditString(), event->attributes());
   fitted_event.setCommitString(fitted.Text, event->replacementStart(), event->replacementLength());
   QLineEdit::inputMethodEvent(&fitted_event);
-  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+  TellReplaced(fitted.Replaced);
 }
 
 void LineField::mouseReleaseEvent(QMouseEvent* event) {
@@ -87,14 +92,27 @@ void LineField::focusOutEvent(QFocusEvent* event) {
   if (IsFocusLost(*event)) emit LostFocus();
 }
 
-bool LineField::IsFitForField(const QString& text) const { return IsFit(text, *code_page_, kBlank); }
+bool LineField::IsFitForField(const QString& text) const {
+  return IsFit(text, *code_page_, kBlank);
+}
 
 void LineField::InsertFitted(const QString& text) {
   const FittedText fitted = Fit(text, *code_page_, kBlank);
   insert(fitted.Text);
-  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+  TellReplaced(fitted.Replaced);
 }
 
-void LineField::PasteFitted() { InsertFitted(QApplication::clipboard()->text()); }
+void LineField::TellReplaced(int count) {
+  if (count == 0) return;
+  if (isSignalConnected(QMetaMethod::fromSignal(&LineField::CharactersReplaced))) {
+    emit CharactersReplaced(count);
+  } else {
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), ReplacedNotice(count), this);
+  }
+}
+
+void LineField::PasteFitted() {
+  InsertFitted(QApplication::clipboard()->text());
+}
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLineEdit>
+
 #include <string>
 #include <string_view>
 
@@ -25,7 +26,7 @@ class LineField : public QLineEdit {
  signals:
   /// The focus has gone to another control (not to a menu or another window).
   void LostFocus();
-  /// Characters that the code page does not hold became "?".
+  /// Characters that the code page does not hold became "?". If nobody listens, the field tells it itself.
   void CharactersReplaced(int count);
 
  protected:
@@ -40,6 +41,7 @@ class LineField : public QLineEdit {
   bool IsFitForField(const QString& text) const;
   void InsertFitted(const QString& text);
   void PasteFitted();
+  void TellReplaced(int count);
 
   const CodePage* code_page_;
 };

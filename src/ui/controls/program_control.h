@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+
 #include <exception>
 #include <functional>
 #include <type_traits>

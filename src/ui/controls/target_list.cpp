@@ -15,7 +15,9 @@ TargetList::TargetList(QWidget* parent)
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
 }
 
-void TargetList::SetCodePage(const CodePage& code_page) { field_->SetCodePage(code_page); }
+void TargetList::SetCodePage(const CodePage& code_page) {
+  field_->SetCodePage(code_page);
+}
 
 void TargetList::SetItems(const QStringList& items) {
   const QString typed = currentText();
@@ -24,9 +26,13 @@ void TargetList::SetItems(const QStringList& items) {
   setEditText(typed);
 }
 
-QStringList TargetList::Items() const { return items_->stringList(); }
+QStringList TargetList::Items() const {
+  return items_->stringList();
+}
 
-std::string TargetList::Bytes() const { return field_->Bytes(); }
+std::string TargetList::Bytes() const {
+  return field_->Bytes();
+}
 
 void TargetList::SetBytes(std::string_view bytes) {
   setCurrentIndex(-1);

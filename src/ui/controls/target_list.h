@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 #include <QStringList>
+
 #include <string>
 #include <string_view>
 

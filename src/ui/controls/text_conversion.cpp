@@ -1,7 +1,5 @@
 #include "ui/controls/text_conversion.h"
 
-#include <QFile>
-
 #include "core/text/run_time_error.h"
 
 namespace tavrel {
@@ -36,9 +34,13 @@ std::string ToBytes(QStringView text, const CodePage& code_page) {
   return bytes;
 }
 
-QString ToText(const std::filesystem::path& path) { return QString::fromStdString(PathText(path)); }
+QString ToText(const std::filesystem::path& path) {
+  return QString::fromStdString(PathText(path));
+}
 
-std::filesystem::path ToPath(const QString& text) { return {text.toStdU16String()}; }
+std::filesystem::path ToPath(const QString& text) {
+  return {text.toStdU16String()};
+}
 
 FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break) {
   FittedText fitted;
@@ -57,6 +59,11 @@ FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break) {
     }
   }
   return fitted;
+}
+
+QString ReplacedNotice(int count) {
+  if (count == 1) return "A character that an iPod note cannot hold became \"?\".";
+  return QString("%1 characters that an iPod note cannot hold became \"?\".").arg(count);
 }
 
 bool IsFit(const QString& text, const CodePage& code_page, QChar line_break) {

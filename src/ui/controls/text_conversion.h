@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -29,6 +30,9 @@ struct FittedText {
 
 /// Replaces what the code page does not hold by "?". Line breaks of all kinds become `line_break`.
 FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break);
+
+/// What to tell the user about characters that became "?".
+QString ReplacedNotice(int count);
 
 /// Whether Fit would leave the text as it is.
 bool IsFit(const QString& text, const CodePage& code_page, QChar line_break);

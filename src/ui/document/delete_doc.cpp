@@ -6,7 +6,8 @@
 
 namespace tavrel {
 
-DeleteDoc::DeleteDoc(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::DeleteDoc>()) {
+DeleteDoc::DeleteDoc(App& app, QWidget* parent)
+    : Dialog(app, parent), ui_(std::make_unique<Ui::DeleteDoc>()) {
   ui_->setupUi(this);
   PrepareControls();
   On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
@@ -17,7 +18,9 @@ DeleteDoc::DeleteDoc(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::
 
 DeleteDoc::~DeleteDoc() = default;
 
-void DeleteDoc::Form_Load() { ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse()); }
+void DeleteDoc::Form_Load() {
+  ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse());
+}
 
 void DeleteDoc::Command1_Click() {
   const std::filesystem::path file = ui_->List1->SelectedFile();
@@ -26,8 +29,12 @@ void DeleteDoc::Command1_Click() {
   accept();
 }
 
-void DeleteDoc::Command2_Click() { reject(); }
+void DeleteDoc::Command2_Click() {
+  reject();
+}
 
-void DeleteDoc::List1_DblClick() { Command1_Click(); }
+void DeleteDoc::List1_DblClick() {
+  Command1_Click();
+}
 
 }  // namespace tavrel

@@ -60,16 +60,22 @@ void FileMenu::FileClose_Click() {
   editor_.ResetCaption();
 }
 
-void FileMenu::FileDelete_Click() { DeleteDoc(app_, window_).exec(); }
+void FileMenu::FileDelete_Click() {
+  DeleteDoc(app_, window_).exec();
+}
 
 void FileMenu::FileExit_Click() {
   if (!MayGoOn(messages::ExitLosesChanges())) return;
   app_.Control.End();
 }
 
-bool FileMenu::Show(const Message& message) { return app_.Messages.Show(window_, message); }
+bool FileMenu::Show(const Message& message) {
+  return app_.Messages.Show(window_, message);
+}
 
-bool FileMenu::MayGoOn(const Message& question) { return !app_.State.IsDocumentOpen() || Show(question); }
+bool FileMenu::MayGoOn(const Message& question) {
+  return !app_.State.IsDocumentOpen() || Show(question);
+}
 
 void FileMenu::ShowResult() {
   if (!app_.State.IsDocumentOpen()) {

@@ -36,8 +36,12 @@ void NewDoc::Command1_Click() {
   accept();
 }
 
-void NewDoc::Command2_Click() { reject(); }
+void NewDoc::Command2_Click() {
+  reject();
+}
 
-void NewDoc::Text1_KeyPress() { Command1_Click(); }
+void NewDoc::Text1_KeyPress() {
+  Command1_Click();
+}
 
 }  // namespace tavrel

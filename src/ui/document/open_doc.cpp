@@ -16,7 +16,9 @@ OpenDoc::OpenDoc(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make
 
 OpenDoc::~OpenDoc() = default;
 
-void OpenDoc::Form_Load() { ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse()); }
+void OpenDoc::Form_Load() {
+  ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse());
+}
 
 void OpenDoc::Command1_Click() {
   const std::filesystem::path file = ui_->List1->SelectedFile();
@@ -26,8 +28,12 @@ void OpenDoc::Command1_Click() {
   accept();
 }
 
-void OpenDoc::Command2_Click() { reject(); }
+void OpenDoc::Command2_Click() {
+  reject();
+}
 
-void OpenDoc::List1_DblClick() { Command1_Click(); }
+void OpenDoc::List1_DblClick() {
+  Command1_Click();
+}
 
 }  // namespace tavrel

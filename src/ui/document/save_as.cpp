@@ -17,7 +17,9 @@ SaveAs::SaveAs(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_u
 
 SaveAs::~SaveAs() = default;
 
-void SaveAs::Form_Load() { ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse()); }
+void SaveAs::Form_Load() {
+  ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse());
+}
 
 void SaveAs::Command1_Click() {
   const std::filesystem::path file = AskForDocumentFile(app_, this, ui_->Text1->Bytes());
@@ -27,6 +29,8 @@ void SaveAs::Command1_Click() {
   accept();
 }
 
-void SaveAs::Command2_Click() { reject(); }
+void SaveAs::Command2_Click() {
+  reject();
+}
 
 }  // namespace tavrel

@@ -42,9 +42,13 @@ void Publish::Drive1_Change() {
   ui_->Drive1->SetDriveOf(ui_->File1->Path());
 }
 
-void Publish::Dir1_Change() { ui_->File1->SetPath(ui_->Dir1->Path()); }
+void Publish::Dir1_Change() {
+  ui_->File1->SetPath(ui_->Dir1->Path());
+}
 
-void Publish::Command1_Click() { reject(); }
+void Publish::Command1_Click() {
+  reject();
+}
 
 void Publish::Command2_Click() {
   const std::string name = CleanName(ui_->Text1->Bytes());
@@ -53,7 +57,8 @@ void Publish::Command2_Click() {
                                .BackgroundMusic = ui_->Check2->isChecked()};
   try {
     const Hourglass hourglass;
-    PublishNotes(app_.State, app_.System, ui_->Dir1->Path() / PathFromName(name, app_.CodePageInUse()), options);
+    PublishNotes(app_.State, app_.System, ui_->Dir1->Path() / PathFromName(name, app_.CodePageInUse()),
+                 options);
   } catch (const FileError& error) {
     app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, "Publish"});
     return;

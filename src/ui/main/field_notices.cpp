@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "ui/controls/text_conversion.h"
 #include "ui_main_window.h"
 
 namespace tavrel {
@@ -31,9 +32,7 @@ FieldNotices::FieldNotices(Ui::Main& ui) : ui_(ui), tag_notice_(new QLabel(ui.St
 }
 
 void FieldNotices::TellReplaced(int count) {
-  ui_.StatusBar->showMessage(count == 1 ? "A character that an iPod note cannot hold became \"?\"."
-                                        : QString("%1 characters that an iPod note cannot hold became \"?\".").arg(count),
-                             kNoticeTime);
+  ui_.StatusBar->showMessage(ReplacedNotice(count), kNoticeTime);
 }
 
 void FieldNotices::CheckTags(const QObject* field, const QString& text, const QStringList& closing_tags) {

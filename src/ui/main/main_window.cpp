@@ -24,8 +24,7 @@ constexpr int kTimer1Interval = 1000;
 
 }  // namespace
 
-Main::Main(App& app)
-    : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new QTimer(this)) {
+Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new QTimer(this)) {
   ui_->setupUi(this);
   timer1_->setObjectName("Timer1");
   timer1_->setInterval(kTimer1Interval);
@@ -92,7 +91,9 @@ void Main::closeEvent(QCloseEvent* event) {
   app_.Control.Run([this] { Form_QueryUnload(); });
 }
 
-void Main::Form_QueryUnload() { emit Closed(); }
+void Main::Form_QueryUnload() {
+  emit Closed();
+}
 
 void Main::LoadDoc() {
   LoadDocument(app_.State);
@@ -132,15 +133,25 @@ void Main::StoreTyped() {
   SavePage();
 }
 
-void Main::ClearGrid1() { grids_->ClearLinks(); }
+void Main::ClearGrid1() {
+  grids_->ClearLinks();
+}
 
-void Main::ClearGrid2() { grids_->ClearPages(); }
+void Main::ClearGrid2() {
+  grids_->ClearPages();
+}
 
-void Main::UpdateGrid1() { grids_->StoreLink(page_->TypedLink()); }
+void Main::UpdateGrid1() {
+  grids_->StoreLink(page_->TypedLink());
+}
 
-void Main::UpdateGrid2() { grids_->StorePage(ui_->Text3->Bytes(), ui_->Text4->Bytes()); }
+void Main::UpdateGrid2() {
+  grids_->StorePage(ui_->Text3->Bytes(), ui_->Text4->Bytes());
+}
 
-void Main::RefreshGrid2() { grids_->RefreshPages(); }
+void Main::RefreshGrid2() {
+  grids_->RefreshPages();
+}
 
 void Main::ShowControls() {
   ui_->Cover->setCurrentWidget(ui_->Background);
@@ -160,7 +171,9 @@ void Main::ShowDocumentName() {
   setWindowTitle(name + " - " + kProgramName.data());
 }
 
-void Main::ResetCaption() { setWindowTitle(kProgramName.data()); }
+void Main::ResetCaption() {
+  setWindowTitle(kProgramName.data());
+}
 
 void Main::MSFlexGrid1_Click(int row) {
   UpdateGrid1();
@@ -176,22 +189,40 @@ void Main::MSFlexGrid2_Click(int row) {
   LoadPage(row);
 }
 
-void Main::Text3_KeyPress() { UpdateGrid2(); }
+void Main::Text3_KeyPress() {
+  UpdateGrid2();
+}
 
-void Main::Text3_LostFocus() { UpdateGrid2(); }
+void Main::Text3_LostFocus() {
+  UpdateGrid2();
+}
 
-void Main::Text4_KeyPress() { UpdateGrid2(); }
+void Main::Text4_KeyPress() {
+  UpdateGrid2();
+}
 
-void Main::Text4_LostFocus() { UpdateGrid2(); }
+void Main::Text4_LostFocus() {
+  UpdateGrid2();
+}
 
-void Main::Text5_KeyPress() { UpdateGrid1(); }
+void Main::Text5_KeyPress() {
+  UpdateGrid1();
+}
 
-void Main::Text5_LostFocus() { UpdateGrid1(); }
+void Main::Text5_LostFocus() {
+  UpdateGrid1();
+}
 
-void Main::Combo1_KeyPress() { UpdateGrid1(); }
+void Main::Combo1_KeyPress() {
+  UpdateGrid1();
+}
 
-void Main::Combo1_LostFocus() { UpdateGrid1(); }
+void Main::Combo1_LostFocus() {
+  UpdateGrid1();
+}
 
-void Main::Timer1_Timer() { ui_->LengthBar->SetWidth(ui_->Text1->Length()); }
+void Main::Timer1_Timer() {
+  ui_->LengthBar->SetWidth(ui_->Text1->Length());
+}
 
 }  // namespace tavrel

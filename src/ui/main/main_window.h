@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+
 #include <memory>
 
 #include "ui/app.h"

@@ -9,7 +9,8 @@
 namespace tavrel {
 
 PageEditor::PageEditor(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
-  for (LineField* field : {ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6}) field->SetCodePage(app_.CodePageInUse());
+  for (LineField* field : {ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6})
+    field->SetCodePage(app_.CodePageInUse());
   ui_.Text1->SetCodePage(app_.CodePageInUse());
   ui_.Combo1->SetCodePage(app_.CodePageInUse());
   ui_.Combo2->SetCodePage(app_.CodePageInUse());
@@ -22,7 +23,9 @@ void PageEditor::ShowFields(const PageFields& fields) {
   ui_.Text6->SetBytes(fields.MusicText);
 }
 
-void PageEditor::ShowMusicLink(const PageFields& fields) { ui_.Combo2->SetBytes(fields.MusicLink); }
+void PageEditor::ShowMusicLink(const PageFields& fields) {
+  ui_.Combo2->SetBytes(fields.MusicLink);
+}
 
 void PageEditor::ShowLink(const Link& link) {
   ui_.Text5->SetBytes(link.Text);

@@ -5,7 +5,8 @@
 
 namespace tavrel {
 
-HelpMenu::HelpMenu(App& app, SkinPictures& skins, QWidget* window) : app_(app), skins_(skins), window_(window) {}
+HelpMenu::HelpMenu(App& app, SkinPictures& skins, QWidget* window)
+    : app_(app), skins_(skins), window_(window) {}
 
 void HelpMenu::HelpCustomise_Click() {
   Skins(app_, window_).exec();

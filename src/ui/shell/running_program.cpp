@@ -1,6 +1,7 @@
 #include "ui/shell/running_program.h"
 
 #include <QDir>
+
 #include <cstdlib>
 #include <string>
 
@@ -22,12 +23,14 @@ void RunningProgram::Fail(const std::exception& error) {
   } catch (const std::exception& rescue_error) {
     rescue = std::string("\nThe project could not be brought to safety: ") + rescue_error.what();
   }
-  messages_.Show(nullptr, {std::string(error.what()) + "\n" + rescue + "\nTavrel Writer has to end.", Buttons::Ok,
-                           Icon::Critical, std::string(kProgramName)});
+  messages_.Show(nullptr, {std::string(error.what()) + "\n" + rescue + "\nTavrel Writer has to end.",
+                           Buttons::Ok, Icon::Critical, std::string(kProgramName)});
   std::_Exit(EXIT_FAILURE);
 }
 
-void RunningProgram::End() { std::_Exit(EXIT_SUCCESS); }
+void RunningProgram::End() {
+  std::_Exit(EXIT_SUCCESS);
+}
 
 std::string RunningProgram::Rescue() {
   if (!global_.IsDocumentOpen() || !global_.IsDocumentShown) return {};

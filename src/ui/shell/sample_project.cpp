@@ -3,7 +3,9 @@
 #include <QFile>
 
 // The resources of a static library have to be asked for, outside any namespace.
-static void InitResources() { Q_INIT_RESOURCE(tavrel); }
+static void InitResources() {
+  Q_INIT_RESOURCE(tavrel);
+}
 
 namespace tavrel {
 

@@ -9,7 +9,9 @@
 namespace tavrel {
 namespace {
 
-QString SkinFile(const Global& global, const char* name) { return ToText(global.ProgramFolder / name); }
+QString SkinFile(const Global& global, const char* name) {
+  return ToText(global.ProgramFolder / name);
+}
 
 }  // namespace
 

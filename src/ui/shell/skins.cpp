@@ -19,7 +19,9 @@ Skins::Skins(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_uni
 
 Skins::~Skins() = default;
 
-void Skins::Form_Load() { ui_->Check1->setChecked(app_.State.UseSkin); }
+void Skins::Form_Load() {
+  ui_->Check1->setChecked(app_.State.UseSkin);
+}
 
 void Skins::Command1_Click() {
   app_.State.UseSkin = ui_->Check1->isChecked();

@@ -1,12 +1,12 @@
 #include "core/document/default_pages.h"
 
-#include "core/document/document_file.h"
-
 #include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
+
+#include "core/document/document_file.h"
 
 namespace tavrel::test {
 namespace {

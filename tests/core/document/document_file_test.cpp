@@ -1,14 +1,14 @@
 #include "core/document/document_file.h"
 
-#include "core/text/run_time_error.h"
-#include "support/fake_platform.h"
-#include "support/fixtures.h"
-#include "support/temporary_folder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
+
+#include "core/text/run_time_error.h"
+#include "support/fake_platform.h"
+#include "support/fixtures.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,11 +1,11 @@
-#include "core/document/document_file.h"
-#include "support/fixtures.h"
-#include "support/full_size_document.h"
-
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
 #include <string>
+
+#include "core/document/document_file.h"
+#include "support/fixtures.h"
+#include "support/full_size_document.h"
 
 namespace tavrel::test {
 namespace {

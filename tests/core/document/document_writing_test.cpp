@@ -1,7 +1,7 @@
-#include "core/document/document_file.h"
-
 #include <gtest/gtest.h>
 #include <string>
+
+#include "core/document/document_file.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,8 +1,8 @@
-#include "core/document/page_record.h"
-
 #include <gtest/gtest.h>
 #include <string>
 #include <utility>
+
+#include "core/document/page_record.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,13 +1,13 @@
-#include "core/document/document_file.h"
-#include "core/document/page_record.h"
-#include "support/fixtures.h"
-#include "support/full_size_document.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <random>
 #include <string>
+
+#include "core/document/document_file.h"
+#include "core/document/page_record.h"
+#include "support/fixtures.h"
+#include "support/full_size_document.h"
 
 namespace tavrel::test {
 namespace {

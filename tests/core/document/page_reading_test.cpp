@@ -1,7 +1,7 @@
-#include "core/document/page_record.h"
-
 #include <gtest/gtest.h>
 #include <string>
+
+#include "core/document/page_record.h"
 
 namespace tavrel::test {
 namespace {

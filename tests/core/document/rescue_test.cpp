@@ -1,13 +1,13 @@
 #include "core/document/rescue.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <vector>
+
 #include "core/document/document_file.h"
 #include "support/fake_platform.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <vector>
 
 namespace tavrel::test {
 namespace {

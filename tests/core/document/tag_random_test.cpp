@@ -1,9 +1,9 @@
-#include "core/document/markup.h"
-
 #include <gtest/gtest.h>
 #include <random>
 #include <string>
 #include <vector>
+
+#include "core/document/markup.h"
 
 // The tag routines against the rules written down step by step, with positions counted from 1, over random
 // texts full of broken and overlapping tags.

@@ -1,8 +1,8 @@
-#include "core/document/markup.h"
-
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
+
+#include "core/document/markup.h"
 
 namespace tavrel::test {
 namespace {

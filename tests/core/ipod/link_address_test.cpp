@@ -1,10 +1,10 @@
-#include "core/ipod/note_writer.h"
-#include "core/text/run_time_error.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <string>
+
+#include "core/ipod/note_writer.h"
+#include "core/text/run_time_error.h"
 
 namespace tavrel::test {
 namespace {

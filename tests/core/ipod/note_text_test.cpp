@@ -1,9 +1,9 @@
+#include <gtest/gtest.h>
+#include <string>
+
 #include "core/document/document_file.h"
 #include "core/ipod/note_writer.h"
 #include "support/fixtures.h"
-
-#include <gtest/gtest.h>
-#include <string>
 
 namespace tavrel::test {
 namespace {

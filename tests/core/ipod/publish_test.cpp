@@ -1,3 +1,8 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <map>
+#include <string>
+
 #include "core/document/default_pages.h"
 #include "core/document/document_file.h"
 #include "core/document/page_record.h"
@@ -6,11 +11,6 @@
 #include "support/fake_platform.h"
 #include "support/fixtures.h"
 #include "support/temporary_folder.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <map>
-#include <string>
 
 namespace tavrel::test {
 namespace {

@@ -1,10 +1,10 @@
 #include "core/shell/program_folder.h"
 
-#include "core/text/run_time_error.h"
-#include "support/temporary_folder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "core/text/run_time_error.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

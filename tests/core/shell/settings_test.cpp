@@ -1,14 +1,14 @@
 #include "core/shell/settings.h"
 
-#include "core/text/run_time_error.h"
-#include "support/fake_platform.h"
-#include "support/temporary_folder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
 #include <vector>
+
+#include "core/text/run_time_error.h"
+#include "support/fake_platform.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,6 +1,3 @@
-#include "core/text/file_names.h"
-#include "support/temporary_folder.h"
-
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
@@ -8,6 +5,9 @@
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
+
+#include "core/text/file_names.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

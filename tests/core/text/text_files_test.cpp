@@ -1,12 +1,12 @@
 #include "core/text/text_files.h"
 
-#include "core/text/run_time_error.h"
-#include "support/temporary_folder.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
+
+#include "core/text/run_time_error.h"
+#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "support/window_test.h"
-
 #include <QListWidget>
 #include <QStringList>
 
 #include <string>
 #include <vector>
+
+#include "support/window_test.h"
 
 namespace tavrel::test {
 

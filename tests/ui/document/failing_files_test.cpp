@@ -1,6 +1,6 @@
-#include "ui/document/document_test.h"
-
 #include <gmock/gmock.h>
+
+#include "ui/document/document_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,6 +1,6 @@
-#include "ui/document/document_test.h"
-
 #include <QSignalSpy>
+
+#include "ui/document/document_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,7 +1,7 @@
-#include "ui/document/document_test.h"
-
 #include <QCheckBox>
 #include <QLineEdit>
+
+#include "ui/document/document_test.h"
 
 namespace tavrel::test {
 namespace {

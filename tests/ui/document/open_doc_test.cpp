@@ -1,6 +1,6 @@
-#include "ui/document/document_test.h"
-
 #include <QAbstractButton>
+
+#include "ui/document/document_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,8 +1,8 @@
-#include "ui/document/document_test.h"
-
 #include <QAbstractButton>
 #include <QLabel>
 #include <QLineEdit>
+
+#include "ui/document/document_test.h"
 
 namespace tavrel::test {
 namespace {

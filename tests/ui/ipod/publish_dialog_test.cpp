@@ -1,11 +1,11 @@
-#include "ui/controls/file_list.h"
-#include "ui/controls/folder_list.h"
-#include "ui/ipod/publish_test.h"
-
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+
+#include "ui/controls/file_list.h"
+#include "ui/controls/folder_list.h"
+#include "ui/ipod/publish_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,10 +1,10 @@
-#include "ui/ipod/publish.h"
-#include "ui/ipod/publish_test.h"
-
 #include <QApplication>
 #include <QCursor>
 
 #include <gmock/gmock.h>
+
+#include "ui/ipod/publish.h"
+#include "ui/ipod/publish_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,8 +1,8 @@
+#include <QComboBox>
+
 #include "ui/controls/file_list.h"
 #include "ui/controls/folder_list.h"
 #include "ui/ipod/publish_test.h"
-
-#include <QComboBox>
 
 namespace tavrel::test {
 namespace {

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "support/window_test.h"
-
 #include <QStringList>
 
 #include <map>
 #include <string>
 #include <vector>
+
+#include "support/window_test.h"
 
 class QListWidget;
 

@@ -65,8 +65,9 @@ TEST_F(FieldNoticesTest, AClosingTagIsToldWhileItStands) {
 
 TEST_F(FieldNoticesTest, EveryFieldKnowsItsOwnClosingTags) {
   const std::pair<QWidget*, QString> fields[] = {
-      {&Title(), "</title>"},       {&Note(), "</note>"},      {&LinkText(), "</linktext>"}, {&LinkText(), "</link>"},
-      {&LinkTarget(), "</linkto>"}, {&MusicText(), "</music>"}, {&MusicLink(), "</music>"},
+      {&Title(), "</title>"},     {&Note(), "</note>"},         {&LinkText(), "</linktext>"},
+      {&LinkText(), "</link>"},   {&LinkTarget(), "</linkto>"}, {&MusicText(), "</music>"},
+      {&MusicLink(), "</music>"},
   };
   for (const auto& [field, tag] : fields) {
     TypeInto(*field, tag);

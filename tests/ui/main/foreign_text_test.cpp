@@ -43,7 +43,8 @@ TEST_F(ForeignTextTest, ALoneLineFeedInMemoryStaysContent) {
 
 TEST_F(ForeignTextTest, ALineBreakInAOneLineFieldSurvivesAVisit) {
   const std::string file =
-      "\r\n 1 ,<title>a<p>b</title><note>c<p>d</note><link><linktext>e<p>f</linktext><linkto>002</linkto></link>"
+      "\r\n 1 "
+      ",<title>a<p>b</title><note>c<p>d</note><link><linktext>e<p>f</linktext><linkto>002</linkto></link>"
       "<music>g<p>h</music><music>M1</music>\r\n";
   OpenDocument("Breaks.dat", file);
   EXPECT_EQ(Title().Bytes(), "a\r\nb");

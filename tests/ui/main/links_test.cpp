@@ -5,7 +5,9 @@ namespace tavrel::test {
 namespace {
 
 constexpr const char* kTwoLinks =
-    "\r\n 1 ,<text>x</text><link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto>002</linkto>"
+    "\r\n 1 "
+    ",<text>x</text><link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto>002</"
+    "linkto>"
     "</link>\r\n 2 ,<text>y</text>\r\n";
 
 class LinksTest : public WindowTest {
@@ -24,9 +26,10 @@ class LinksTest : public WindowTest {
 };
 
 TEST_F(LinksTest, LinksFillTheFirstRowsAndTheFirstIsCurrent) {
-  OpenDocument("Links.dat",
-               "\r\n 1 ,<link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto>002</linkto>"
-               "<linktext>c</linktext><linkto>M3</linkto></link>\r\n");
+  OpenDocument(
+      "Links.dat",
+      "\r\n 1 ,<link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto>002</linkto>"
+      "<linktext>c</linktext><linkto>M3</linkto></link>\r\n");
   EXPECT_EQ(LinkRow(1), Row("a", "001"));
   EXPECT_EQ(LinkRow(2), Row("b", "002"));
   EXPECT_EQ(LinkRow(3), Row("c", "M3"));
@@ -140,9 +143,10 @@ TEST_F(LinksTest, OnlyFortyNineLinksSurviveAVisit) {
 }
 
 TEST_F(LinksTest, AnEmptyLinkBetweenOthersIsClosedUpByAVisit) {
-  OpenDocument("Gap.dat",
-               "\r\n 1 ,<link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto></linkto>"
-               "<linktext>c</linktext><linkto>003</linkto></link>\r\n");
+  OpenDocument(
+      "Gap.dat",
+      "\r\n 1 ,<link><linktext>a</linktext><linkto>001</linkto><linktext>b</linktext><linkto></linkto>"
+      "<linktext>c</linktext><linkto>003</linkto></link>\r\n");
   EXPECT_EQ(LinkRow(2), Row("b", ""));
   EXPECT_EQ(LinkRow(3), Row("c", "003"));
   ClickRow(PagesGrid(), 2);

@@ -25,8 +25,8 @@ TEST_F(MenuTest, TheBarHoldsFileEditAndHelp) {
 
 TEST_F(MenuTest, FileHoldsItsEntriesInOrder) {
   EXPECT_EQ(Captions("FileMenu"),
-            (QStringList{"New project", "Open project", "Save project", "Save As", "Close project", "-", "Backup",
-                         "Restore", "Delete", "-", "Publish", "Manage", "Import", "-", "Exit"}));
+            (QStringList{"New project", "Open project", "Save project", "Save As", "Close project", "-",
+                         "Backup", "Restore", "Delete", "-", "Publish", "Manage", "Import", "-", "Exit"}));
 }
 
 TEST_F(MenuTest, HelpHoldsItsEntriesInOrder) {
@@ -47,8 +47,8 @@ TEST_F(MenuTest, TheSubmenusOfEditHoldTheirEntriesInOrder) {
 TEST_F(MenuTest, EditHoldsItsSubmenusAndCommands) {
   QStringList captions = Captions("EditMenu");
   captions.removeAll("-");
-  EXPECT_EQ(captions, (QStringList{"Page", "Link", "Text", "Font", "Music Editor", "Project planner", "Block copy",
-                                   "Block clear", "Block Delete", "Block insert"}));
+  EXPECT_EQ(captions, (QStringList{"Page", "Link", "Text", "Font", "Music Editor", "Project planner",
+                                   "Block copy", "Block clear", "Block Delete", "Block insert"}));
 }
 
 TEST_F(MenuTest, ShortcutsAreNotUsedTwice) {

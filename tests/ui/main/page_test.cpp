@@ -25,9 +25,10 @@ TEST_F(PageTest, FieldsAreStoredInTheOrderTitleNoteTextLinksMusic) {
   TypeInto(Note(), "N");
   TypeInto(Title(), "T");
   ClickRow(PagesGrid(), 1);
-  EXPECT_EQ(State.Pages[4],
-            "<title>T</title><note>N</note><text>B</text><link><linktext>L</linktext><linkto>002</linkto></link>"
-            "<music>C</music><music>M1</music>");
+  EXPECT_EQ(
+      State.Pages[4],
+      "<title>T</title><note>N</note><text>B</text><link><linktext>L</linktext><linkto>002</linkto></link>"
+      "<music>C</music><music>M1</music>");
 }
 
 TEST_F(PageTest, TheMusicLinkIsStoredInCapitals) {

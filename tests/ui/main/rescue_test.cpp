@@ -11,9 +11,10 @@ TEST_F(RescueTest, EverythingTypedIsStoredWhateverHasTheFocus) {
   TypeInto(LinkText(), "typed link");
   TypeInto(LinkTarget(), "3");
   Window().StoreTyped();
-  EXPECT_EQ(State.Pages[1],
-            "<title>typed title</title><text>one</text><link><linktext>typed link</linktext><linkto>003</linkto>"
-            "</link>");
+  EXPECT_EQ(
+      State.Pages[1],
+      "<title>typed title</title><text>one</text><link><linktext>typed link</linktext><linkto>003</linkto>"
+      "</link>");
 }
 
 TEST_F(RescueTest, FieldsOfADocumentThatIsGoneAreNotStoredIntoTheNext) {

@@ -1,7 +1,7 @@
-#include "ui/shell/shell_test.h"
-
 #include <QCheckBox>
 #include <QLabel>
+
+#include "ui/shell/shell_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,10 +1,10 @@
-#include "support/window_test.h"
-
 #include <QAbstractButton>
 #include <QLabel>
 #include <QMessageBox>
 
 #include <vector>
+
+#include "support/window_test.h"
 
 namespace tavrel::test {
 namespace {

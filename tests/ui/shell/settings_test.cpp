@@ -1,6 +1,6 @@
-#include "ui/shell/shell_test.h"
-
 #include <gmock/gmock.h>
+
+#include "ui/shell/shell_test.h"
 
 namespace tavrel::test {
 namespace {

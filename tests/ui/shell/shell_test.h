@@ -1,12 +1,12 @@
 #pragma once
 
-#include "support/window_test.h"
-#include "ui/controls/picture_area.h"
-
 #include <QColor>
 
 #include <string>
 #include <vector>
+
+#include "support/window_test.h"
+#include "ui/controls/picture_area.h"
 
 namespace tavrel::test {
 

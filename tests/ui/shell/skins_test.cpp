@@ -1,6 +1,6 @@
-#include "ui/shell/shell_test.h"
-
 #include <QPixmap>
+
+#include "ui/shell/shell_test.h"
 
 namespace tavrel::test {
 namespace {

@@ -1,0 +1,111 @@
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "support/temporary_folder.h"
+#include "support/user.h"
+#include "ui/controls/drive_list.h"
+#include "ui/controls/file_list.h"
+#include "ui/controls/folder_list.h"
+#include "ui/controls/text_conversion.h"
+
+namespace tavrel::test {
+namespace {
+
+QStringList Rows(const QListWidget& list) {
+  QStringList rows;
+  for (int row = 0; row < list.count(); ++row) rows << list.item(row)->text().trimmed();
+  return rows;
+}
+
+class FolderListsTest : public testing::Test {
+ protected:
+  FolderListsTest() {
+    folder_.Write("b/inner/z.txt", "");
+    folder_.Write("A/x.txt", "");
+    folder_.Write("two.TXT", "");
+    folder_.Write("One.txt", "");
+    folder_.Write("three.dat", "");
+    folder_.Write(".hidden.txt", "");
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(FolderListsTest, AFolderIsShownBelowThoseAboveItAndAboveItsSubFolders) {
+  FolderList list;
+  ASSERT_TRUE(list.SetPath(folder_.Path()));
+  const QStringList rows = Rows(list);
+  EXPECT_EQ(rows.first(), "/");
+  EXPECT_EQ(rows.mid(rows.size() - 3), (QStringList{ToText(folder_.Path().filename()), "A", "b"}));
+  EXPECT_EQ(list.currentItem()->text().trimmed(), ToText(folder_.Path().filename()));
+}
+
+TEST_F(FolderListsTest, ADoubleClickOpensAndAClickOnlyHighlights) {
+  FolderList list;
+  list.SetPath(folder_.Path());
+  list.show();
+  int changes = 0;
+  QObject::connect(&list, &FolderList::Change, [&] { ++changes; });
+  QListWidgetItem* sub_folder = list.item(list.count() - 1);
+  list.scrollToItem(sub_folder);
+  const QPoint middle = list.visualItemRect(sub_folder).center();
+  QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middle);
+  EXPECT_EQ(list.Path(), folder_.Path());
+  QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middle);
+  EXPECT_EQ(list.Path(), folder_.Path() / "b");
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(FolderListsTest, EnterOpensTheHighlightedFolder) {
+  FolderList list;
+  list.SetPath(folder_.Path() / "b");
+  PressKey(list, Qt::Key_Down);
+  PressKey(list, Qt::Key_Return);
+  EXPECT_EQ(list.Path(), folder_.Path() / "b" / "inner");
+}
+
+TEST_F(FolderListsTest, AFolderThatCannotBeReadChangesNothing) {
+  FolderList list;
+  list.SetPath(folder_.Path());
+  const QStringList rows = Rows(list);
+  EXPECT_FALSE(list.SetPath(folder_.Path() / "missing"));
+  EXPECT_FALSE(list.SetPath(folder_.Path() / "One.txt"));
+  EXPECT_EQ(list.Path(), folder_.Path());
+  EXPECT_EQ(Rows(list), rows);
+}
+
+TEST_F(FolderListsTest, FilesAreListedInAlphabeticalOrderWithoutHiddenOnes) {
+  FileList list;
+  list.SetPath(folder_.Path());
+  EXPECT_EQ(Rows(list), (QStringList{"One.txt", "three.dat", "two.TXT"}));
+  list.SetExtension(".txt");
+  list.SetPath(folder_.Path());
+  EXPECT_EQ(Rows(list), (QStringList{"One.txt", "two.TXT"}));
+}
+
+TEST_F(FolderListsTest, TheDriveOfAFolderIsTheOneClosestAboveIt) {
+  DriveList list;
+  list.SetVolumes({{"/", "/"}, {"stick", folder_.Path()}, {"other", folder_.Path() / "A"}});
+  list.SetDriveOf(folder_.Path() / "b" / "inner");
+  EXPECT_EQ(list.Drive().Name, "stick");
+  list.SetDriveOf(folder_.Path() / "A");
+  EXPECT_EQ(list.Drive().Name, "other");
+  list.SetDriveOf("/somewhere/else");
+  EXPECT_EQ(list.Drive().Name, "/");
+}
+
+TEST_F(FolderListsTest, OnlyAChoiceOfTheUserIsAChange) {
+  DriveList list;
+  int changes = 0;
+  QObject::connect(&list, &DriveList::Change, [&] { ++changes; });
+  list.SetVolumes({{"/", "/"}, {"stick", folder_.Path()}});
+  list.SetDriveOf(folder_.Path());
+  EXPECT_EQ(changes, 0);
+  PressKey(list, Qt::Key_Up);
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(list.Drive().Name, "/");
+}
+
+}  // namespace
+}  // namespace tavrel::test
