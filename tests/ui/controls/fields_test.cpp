@@ -10,6 +10,7 @@
 #include <random>
 #include <string_view>
 
+#include "support/user.h"
 #include "ui/controls/body_field.h"
 #include "ui/controls/line_field.h"
 #include "ui/controls/text_conversion.h"
@@ -87,8 +88,7 @@ TEST(LineFieldTest, TheInputMethodsTextIsMadeFit) {
 TEST(LineFieldTest, TypingOverASelectionCanBeTakenBack) {
   LineField field;
   field.SetBytes("old");
-  field.selectAll();
-  QTest::keyClicks(&field, u"\u4E2D"_qs);
+  TypeInto(field, u"\u4E2D"_qs);
   EXPECT_EQ(field.Bytes(), "?");
   QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(field.Bytes(), "old");
