@@ -4,6 +4,7 @@
 #include "core/document/document_file.h"
 #include "core/text/run_time_error.h"
 #include "expect.h"
+#include "literal_rules.h"
 
 using namespace tavrel;
 using namespace tavrel::fuzz;
@@ -14,6 +15,17 @@ bool HoldsNothing(const Global& global) {
   const auto empty = [](const std::string& record) { return record.empty(); };
   return std::all_of(global.Pages.begin(), global.Pages.end(), empty) &&
          std::all_of(global.MusicLinks.begin(), global.MusicLinks.end(), empty);
+}
+
+/// Nothing if the text is damaged.
+std::unique_ptr<Global> LiterallyRead(const std::string& text) {
+  auto global = std::make_unique<Global>();
+  try {
+    LiteralReadDocument(text, *global);
+  } catch (const RunTimeError&) {
+    return nullptr;
+  }
+  return global;
 }
 
 /// Page 1000 and music link 100 are read but never written.
@@ -29,13 +41,20 @@ void ExpectSameStored(const Global& actual, const Global& expected) {
 
 /// Any bytes are a document or a damaged one. What is read from a document and written is read back the same.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string input(Input(data, size).Rest());
+  const std::unique_ptr<Global> expected = LiterallyRead(input);
   const auto first = std::make_unique<Global>();
   try {
-    ReadDocumentText(Input(data, size).Rest(), *first);
+    ReadDocumentText(input, *first);
   } catch (const RunTimeError&) {
+    Expect(expected == nullptr, "only a damaged document is refused");
     Expect(HoldsNothing(*first), "a damaged document changes nothing");
     return 0;
   }
+  Expect(expected != nullptr, "a damaged document is refused");
+  Expect(first->Pages == expected->Pages && first->MusicLinks == expected->MusicLinks,
+         "the document is read");
+
   const std::string text = DocumentText(*first);
   const auto second = std::make_unique<Global>();
   ReadDocumentText(text, *second);

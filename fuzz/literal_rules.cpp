@@ -1,8 +1,8 @@
 #include "literal_rules.h"
 
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
+#include <vector>
 
 #include "core/text/run_time_error.h"
 
@@ -74,7 +74,62 @@ std::string Target(const Global& global, const std::string& link_to) {
   return LiteralGetMusic(global, link_to);
 }
 
+/// The lines of a text, each without its CR LF or LF; a last one without an end counts if it is not empty.
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::string line;
+  for (const char character : text) {
+    if (character == '\n') {
+      if (!line.empty() && line.back() == '\r') line.pop_back();
+      lines.push_back(line);
+      line.clear();
+    } else {
+      line += character;
+    }
+  }
+  if (!line.empty()) lines.push_back(line);
+  return lines;
+}
+
+std::string WithLineBreaks(std::string record) {
+  for (std::size_t at = 0; (at = Position(record, "<p>", at + 1)) != 0;) record.replace(at - 1, 3, "\r\n");
+  return record;
+}
+
+struct Entry {
+  bool HasIndex;
+  double Index;
+  std::string Record;
+};
+
+Entry EntryOf(const std::string& line) {
+  const std::size_t comma = line.find(',');
+  const std::string field = line.substr(0, comma);
+  return {field.find_first_not_of(' ') != std::string::npos, std::nearbyint(LeadingNumber(field)),
+          comma == std::string::npos ? "" : line.substr(comma + 1)};
+}
+
+std::size_t Checked(double index, double last) {
+  if (!(index >= 0 && index <= last)) throw RunTimeError("no such entry");
+  return static_cast<std::size_t>(index);
+}
+
 }  // namespace
+
+void LiteralReadDocument(const std::string& text, Global& global) {
+  bool in_pages = false;
+  for (const std::string& line : Lines(text)) {
+    const Entry entry = EntryOf(line);
+    if (in_pages) {
+      global.Pages.at(Checked(entry.Index, 1000)) = WithLineBreaks(entry.Record);
+    } else if (entry.HasIndex) {
+      global.MusicLinks.at(Checked(entry.Index, 100)) = entry.Record;
+    } else {
+      in_pages = true;
+    }
+  }
+  if (!in_pages) throw RunTimeError("no pages");
+}
 
 std::string LiteralGetTag(const std::string& text, const std::string& tag, int occurrence) {
   std::size_t position = OpeningPosition(text, tag, occurrence);

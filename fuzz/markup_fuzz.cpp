@@ -11,7 +11,7 @@ using namespace tavrel::fuzz;
 namespace {
 
 constexpr std::array<const char*, 10> kTags = {"<title>",    "<note>",  "<text>", "<link>", "<linkto>",
-                                               "<linktext>", "<music>", "<song>", "<p>",    "<<>"};
+                                               "<linktext>", "<music>", "<song>", "<p>",    "<a<a"};
 
 /// Gives the number of elements.
 int ExpectWalkCountsLikeGetTag(const std::string& text, const std::string& tag) {

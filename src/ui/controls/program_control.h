@@ -5,7 +5,6 @@
 #include <exception>
 #include <functional>
 #include <type_traits>
-#include <utility>
 
 namespace tavrel {
 
@@ -24,18 +23,21 @@ class ProgramControl {
   virtual void End() = 0;
 };
 
+/// Runs `handler` under `control`, with the arguments if it takes them.
+template <typename Handler, typename... Arguments>
+void Handle(ProgramControl& control, const Handler& handler, const Arguments&... arguments) {
+  if constexpr (std::is_invocable_v<const Handler&, const Arguments&...>) {
+    control.Run([&] { handler(arguments...); });
+  } else {
+    control.Run(handler);
+  }
+}
+
 /// Runs `handler`, a function of the signal's arguments or of none, under `control` at every `signal`.
 template <typename Sender, typename Signal, typename Handler>
 void On(ProgramControl& control, const Sender* sender, Signal signal, QObject* receiver, Handler handler) {
-  QObject::connect(sender, signal, receiver, [&control, handler](auto&&... arguments) {
-    control.Run([&] {
-      if constexpr (std::is_invocable_v<Handler, decltype(arguments)...>) {
-        handler(std::forward<decltype(arguments)>(arguments)...);
-      } else {
-        handler();
-      }
-    });
-  });
+  QObject::connect(sender, signal, receiver,
+                   [&control, handler](const auto&... arguments) { Handle(control, handler, arguments...); });
 }
 
 }  // namespace tavrel

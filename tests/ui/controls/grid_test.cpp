@@ -43,8 +43,7 @@ TEST_F(GridTest, AClickTellsItsRowAndSelectsItWhole) {
 }
 
 TEST_F(GridTest, AClickOnTheHeadingIsNoClickOnARow) {
-  for (QHeaderView* heading : grid_.findChildren<QHeaderView*>())
-    QTest::mouseClick(heading->viewport(), Qt::LeftButton);
+  QTest::mouseClick(grid_.horizontalHeader()->viewport(), Qt::LeftButton);
   EXPECT_TRUE(clicks_.empty());
   EXPECT_EQ(grid_.Row(), 0);
 }

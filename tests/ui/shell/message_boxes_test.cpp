@@ -60,9 +60,9 @@ TEST_F(MessageBoxesTest, EveryIconIsShown) {
       {Icon::Question, QMessageBox::Question},
       {Icon::Exclamation, QMessageBox::Warning},
       {Icon::Critical, QMessageBox::Critical}};
-  for (const auto& [icon, shown] : icons) {
-    Show({"Text", Buttons::Ok, icon, "Title"}, [&](QMessageBox& box) {
-      EXPECT_EQ(box.icon(), shown);
+  for (const auto& pair : icons) {
+    Show({"Text", Buttons::Ok, pair.first, "Title"}, [&](QMessageBox& box) {
+      EXPECT_EQ(box.icon(), pair.second);
       Press(box, QMessageBox::Ok);
     });
   }
