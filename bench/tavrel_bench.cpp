@@ -10,7 +10,8 @@
 /// never makes it fail.
 int main(int argc, char* argv[]) {
   using namespace tavrel::bench;
-  ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  const bool has_display = std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr;
+  if (!has_display) ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
   ::setenv("QT_LOGGING_RULES", "*.warning=false", 1);
   QApplication application(argc, argv);
   try {

@@ -19,13 +19,28 @@ fs::path TemporaryName(const fs::path& folder) {
 }
 
 /// The file behind a symbolic link, also if it does not exist yet.
-fs::path WhereLinkLeads(fs::path file) {
+fs::path WhereLinkLeads(fs::path file, std::error_code& error) {
   constexpr int kMostLinks = 40;
-  std::error_code error;
-  for (int links = 0; links < kMostLinks && fs::is_symlink(file, error); ++links) {
+  std::error_code ignored;
+  for (int links = 0; fs::is_symlink(file, ignored); ++links) {
+    if (links == kMostLinks) {
+      error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+      return file;
+    }
     file = file.parent_path() / fs::read_symlink(file, error);
+    if (error) return file;
   }
   return file;
+}
+
+/// A folder cannot be replaced, and a file that may not be written must not be.
+std::error_code WhyNotReplaceable(const fs::path& target) {
+  constexpr fs::perms kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+  std::error_code error;
+  const fs::file_status status = fs::status(target, error);
+  if (fs::is_directory(status)) return std::make_error_code(std::errc::is_a_directory);
+  const bool read_only = fs::exists(status) && (status.permissions() & kAnyWrite) == fs::perms::none;
+  return read_only ? std::make_error_code(std::errc::permission_denied) : std::error_code();
 }
 
 std::error_code WriteAll(FileLayer& files, int handle, std::string_view bytes) {
@@ -56,9 +71,12 @@ std::error_code CreateTemporary(FileLayer& files, const fs::path& target, fs::pa
   return error;
 }
 
-std::error_code ReplaceWhole(FileLayer& files, const fs::path& target, std::string_view bytes) {
+std::error_code ReplaceWhole(FileLayer& files, const fs::path& file, std::string_view bytes) {
   std::error_code error;
-  if (fs::is_directory(target, error)) return std::make_error_code(std::errc::is_a_directory);
+  fs::path target = fs::absolute(file, error);
+  if (!error) target = WhereLinkLeads(target, error);
+  if (!error) error = WhyNotReplaceable(target);
+  if (error) return error;
 
   fs::path temporary;
   int handle = -1;
@@ -76,22 +94,29 @@ std::error_code ReplaceWhole(FileLayer& files, const fs::path& target, std::stri
   return {};
 }
 
+std::error_code WritePlain(FileLayer& files, const fs::path& file, std::string_view bytes) {
+  std::error_code error;
+  const fs::path target = WhereLinkLeads(file, error);
+  int handle = -1;
+  if (!error) error = files.CreateOrEmpty(target, handle);
+  if (error) return error;
+  error = WriteAndClose(files, handle, bytes, false);
+  if (error) files.Remove(target);
+  return error;
+}
+
 }  // namespace
 
 void WriteWholeFile(FileLayer& files, const fs::path& file, std::string_view bytes) {
-  if (const std::error_code error = ReplaceWhole(files, WhereLinkLeads(fs::absolute(file)), bytes)) {
+  if (const std::error_code error = ReplaceWhole(files, file, bytes)) {
     throw FileError(file, "could not be written", error);
   }
 }
 
 void WritePlainFile(FileLayer& files, const fs::path& file, std::string_view bytes) {
-  int handle = -1;
-  std::error_code error = files.CreateOrEmpty(file, handle);
-  if (!error) {
-    error = WriteAndClose(files, handle, bytes, false);
-    if (error) files.Remove(file);
+  if (const std::error_code error = WritePlain(files, file, bytes)) {
+    throw FileError(file, "could not be written", error);
   }
-  if (error) throw FileError(file, "could not be written", error);
 }
 
 }  // namespace tavrel

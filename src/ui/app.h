@@ -8,7 +8,7 @@ namespace tavrel {
 class MessageService;
 class ProgramControl;
 
-/// What every window works with. `main` makes one; a test makes its own.
+/// What every window works with. The start of the program makes one; a test makes its own.
 struct App {
   Global& State;
   Platform& System;

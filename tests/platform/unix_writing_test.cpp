@@ -136,5 +136,31 @@ TEST(UnixWriting, LeavesAReadOnlyFolderAsItIs) {
   EXPECT_EQ(folder.Files(), (FileMap{{"locked/Guide.dat", "old"}}));
 }
 
+TEST(UnixWriting, RefusesToReplaceAWriteProtectedFile) {
+  const TemporaryFolder folder;
+  folder.Write("file", "old");
+  fs::permissions(folder.Path() / "file", fs::perms::owner_read | fs::perms::group_read);
+  EXPECT_THROW(WriteWholeFile(SystemFiles(), folder.Path() / "file", "new"), FileError);
+  EXPECT_EQ(folder.Files().size(), 1U);
+  EXPECT_EQ(folder.Read("file"), "old");
+}
+
+TEST(UnixWriting, MakesTheFileThatASymbolicLinkWaitsFor) {
+  const TemporaryFolder folder;
+  fs::create_symlink("real", folder.Path() / "link");
+  WriteWholeFile(SystemFiles(), folder.Path() / "link", "new");
+  EXPECT_TRUE(fs::is_symlink(folder.Path() / "link"));
+  EXPECT_EQ(folder.Read("real"), "new");
+}
+
+TEST(UnixWriting, RefusesSymbolicLinksThatLeadInACircle) {
+  const TemporaryFolder folder;
+  fs::create_symlink("b", folder.Path() / "a");
+  fs::create_symlink("a", folder.Path() / "b");
+  EXPECT_THROW(WriteWholeFile(SystemFiles(), folder.Path() / "a", "new"), FileError);
+  EXPECT_TRUE(fs::is_symlink(folder.Path() / "a"));
+  EXPECT_TRUE(fs::is_symlink(folder.Path() / "b"));
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -6,7 +6,9 @@
 #include <QTimer>
 
 #include <filesystem>
+#include <functional>
 #include <iostream>
+#include <new>
 
 #include "support/robot.h"
 #include "support/user.h"
@@ -35,18 +37,17 @@ void AnswerMessages(Robot& robot) {
   });
 }
 
-/// Chooses a document as soon as the dialog is up.
-void ChooseDocument(QTimer& waiting, const QString& name) {
-  QWidget* dialog = QApplication::activeModalWidget();
-  if (dialog == nullptr || dialog->objectName() != "OpenDoc") return;
-  waiting.stop();
-  QMetaObject::invokeMethod(
-      dialog,
-      [dialog, name] {
-        ClickListRow(Find<QListWidget>(*dialog, "List1"), name);
-        Click(*dialog, "Command1");
-      },
-      Qt::QueuedConnection);
+/// Plays a step on a dialog as soon as it is up.
+void PlayWhenUp(QWidget& window, const QString& name, const std::function<void(QWidget&)>& step) {
+  auto* waiting = new QTimer(&window);
+  QObject::connect(waiting, &QTimer::timeout, [waiting, name, step] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    if (dialog == nullptr || dialog->objectName() != name) return;
+    waiting->stop();
+    QMetaObject::invokeMethod(
+        dialog, [dialog, step] { step(*dialog); }, Qt::QueuedConnection);
+  });
+  waiting->start(10);
 }
 
 /// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder
@@ -54,9 +55,10 @@ void ChooseDocument(QTimer& waiting, const QString& name) {
 void Play(QMainWindow& window, const QString& command) {
   const QString argument = command.section('=', 1);
   if (command.startsWith("open=")) {
-    auto* waiting = new QTimer(&window);
-    QObject::connect(waiting, &QTimer::timeout, [waiting, argument] { ChooseDocument(*waiting, argument); });
-    waiting->start(10);
+    PlayWhenUp(window, "OpenDoc", [argument](QWidget& dialog) {
+      ClickListRow(Find<QListWidget>(dialog, "List1"), argument);
+      Click(dialog, "Command1");
+    });
     ChooseMenu(window, "FileOpen");
   } else if (command.startsWith("title=")) {
     TypeInto(window, "Text3", argument);
@@ -65,6 +67,17 @@ void Play(QMainWindow& window, const QString& command) {
   } else if (command.startsWith("block=")) {
     fs::remove(argument.toStdString());
     fs::create_directory(argument.toStdString());
+  } else if (command.startsWith("save-as=")) {
+    PlayWhenUp(window, "SaveAs", [argument](QWidget& dialog) {
+      TypeInto(dialog, "Text1", argument);
+      Click(dialog, "Command1");
+    });
+    ChooseMenu(window, "FileSaveAs");
+  } else if (command == "run-out-of-memory") {
+    throw std::bad_alloc();
+  } else if (command == "vanish-home") {
+    const fs::path home = fs::current_path().parent_path().parent_path();
+    fs::rename(home, home.parent_path() / "vanished");
   } else if (command == "vanish") {
     fs::rename(fs::current_path(), fs::current_path().parent_path() / "vanished");
   } else if (command == "exit") {

@@ -17,11 +17,14 @@ constexpr int kPatience = 60000;
 
 class ProcessTest : public testing::Test {
  protected:
+  void SetUp() override { fs::create_directory(home_.Path() / "home"); }
+
   /// Runs the program to its end while its user plays the commands.
   void Run(const QStringList& commands, const QString& program = DRIVEN_WRITER) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", QString::fromStdString(home_.Path().string()));
+    environment.insert("HOME", QString::fromStdString((home_.Path() / "home").string()));
+    environment.insert("TMPDIR", QString::fromStdString((home_.Path() / "temporary").string()));
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     environment.remove("XDG_CONFIG_HOME");
     process.setProcessEnvironment(environment);
@@ -35,7 +38,7 @@ class ProcessTest : public testing::Test {
 
   bool Says(const std::string& text) const { return output_.find(text) != std::string::npos; }
 
-  const fs::path folder_ = fs::path("Documents") / "Tavrel Writer";
+  const fs::path folder_ = fs::path("home") / "Documents" / "Tavrel Writer";
   TemporaryFolder home_;
   int status_ = -1;
   std::string output_;
@@ -50,10 +53,17 @@ TEST_F(ProcessTest, TheFirstStartMakesTheFolderWithSettingsAndTheSampleProject) 
 }
 
 TEST_F(ProcessTest, ADeletedSampleProjectStaysDeleted) {
-  home_.Write(folder_ / "Guide.dat", kGuide);
+  Run({"exit"});
+  fs::remove(home_.Path() / folder_ / "Writing for the iPod.dat");
   Run({"exit"});
   EXPECT_EQ(status_, 0);
   EXPECT_FALSE(home_.Has(folder_ / "Writing for the iPod.dat"));
+}
+
+TEST_F(ProcessTest, AProjectOfTheSamplesNameIsNeverReplaced) {
+  home_.Write(folder_ / "Writing for the iPod.dat", kGuide);
+  Run({"exit"});
+  EXPECT_EQ(home_.Read(folder_ / "Writing for the iPod.dat"), kGuide);
 }
 
 TEST_F(ProcessTest, TheSampleProjectIsStoredUnchangedByASave) {
@@ -138,7 +148,30 @@ TEST_F(ProcessTest, WhatWasTypedIsRescuedIntoTheHomeFolderWhenTheProgramsFolderI
   EXPECT_EQ(status_, 1);
   EXPECT_TRUE(Says("could not be opened"));
   EXPECT_TRUE(Says("Trio (rescued).dat"));
-  EXPECT_NE(home_.Read("Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+  EXPECT_NE(home_.Read("home/Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+}
+
+TEST_F(ProcessTest, WhatWasTypedButNotStoredIsRescuedWhenSaveAsFails) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  Run({"open=Trio", "title=Typed", "block=Copy.dat", "save-as=Copy"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_EQ(home_.Read(folder_ / "Trio.dat"), kTrio);
+  EXPECT_NE(home_.Read(folder_ / "Copy (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+}
+
+TEST_F(ProcessTest, WhatWasTypedIsRescuedWhenMemoryRunsOut) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  Run({"open=Trio", "title=Typed", "run-out-of-memory"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_NE(home_.Read(folder_ / "Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+}
+
+TEST_F(ProcessTest, WhatWasTypedIsRescuedIntoTheTemporaryFolderWhenNothingElseIsLeft) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  fs::create_directory(home_.Path() / "temporary");
+  Run({"open=Trio", "title=Typed", "vanish-home", "save"}, DRIVEN_WRITER);
+  EXPECT_EQ(status_, 1);
+  EXPECT_NE(home_.Read("temporary/Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
 }
 
 }  // namespace

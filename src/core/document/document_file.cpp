@@ -4,28 +4,45 @@
 #include <utility>
 #include <vector>
 
+#include "core/shell/program_folder.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
+#include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
 #include "core/text/text_files.h"
 
 namespace tavrel {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kStoredLineBreak = "<p>";
 constexpr int kLastStoredMusicLink = 99;
 constexpr int kLastReadPage = 1000;
 
-std::string Replaced(std::string_view text, std::string_view from, std::string_view to) {
+std::string WithLineBreaks(std::string_view text) {
   std::string result;
   result.reserve(text.size());
   std::size_t copied = 0;
-  for (std::size_t at = text.find(from); at != std::string_view::npos; at = text.find(from, copied)) {
-    result.append(text.substr(copied, at - copied)).append(to);
-    copied = at + from.size();
+  for (std::size_t at = text.find(kStoredLineBreak); at != std::string_view::npos;
+       at = text.find(kStoredLineBreak, copied)) {
+    result.append(text.substr(copied, at - copied)).append(kLineEnd);
+    copied = at + kStoredLineBreak.size();
   }
   return result.append(text.substr(copied));
+}
+
+/// A page record on one line. Line breaks are CR LF; a lone LF, which would break the line, counts as one.
+std::string OnOneLine(std::string_view record) {
+  std::string line;
+  line.reserve(record.size());
+  for (std::size_t at = 0; at < record.size();) {
+    const std::size_t feed = record.find('\n', at);
+    line.append(record.substr(at, feed - at));
+    if (feed == std::string_view::npos) break;
+    if (feed > at && line.ends_with('\r')) line.pop_back();
+    line.append(kStoredLineBreak);
+    at = feed + 1;
+  }
+  return line;
 }
 
 void AppendLine(std::string& text, int index, std::string_view record) {
@@ -47,7 +64,7 @@ StoredLine Split(std::string_view line) {
 int CheckedIndex(std::string_view field, int last) {
   const int index = WholeValue(field);
   if (index < 0 || index > last) {
-    throw RunTimeError("The document is damaged: it has an entry numbered " + std::to_string(index) +
+    throw RunTimeError("The document is damaged: it has an entry numbered " + Quoted(field) +
                        ", but only 0 to " + std::to_string(last) +
                        " exist.\nRestore its backup (File > Restore) or repair it in a text editor.");
   }
@@ -74,8 +91,7 @@ Entries ReadPages(LineReader& lines) {
   Entries pages;
   while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
-    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage),
-                       Replaced(line.Record, kStoredLineBreak, kLineEnd));
+    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage), WithLineBreaks(line.Record));
   }
   return pages;
 }
@@ -93,9 +109,7 @@ void LoadDocument(Global& global) {
 }
 
 void SaveDocument(const Global& global, Platform& platform) {
-  std::error_code error;
-  std::filesystem::current_path(global.ProgramFolder, error);
-  if (error) throw FileError(global.ProgramFolder, "could not be opened", error);
+  ReturnToProgramFolder(global);
   platform.WriteWholeFile(DocumentFile(global), DocumentText(global));
 }
 
@@ -111,18 +125,19 @@ void DeleteDocument(const std::filesystem::path& folder, const std::filesystem::
 }
 
 std::string DocumentText(const Global& global) {
+  constexpr std::size_t kIndexAndEnd = 16;
   std::size_t size = 0;
-  for (const std::string& page : global.Pages) size += page.size() + 16;
+  for (const std::string& page : global.Pages) size += page.size() + kIndexAndEnd;
+  for (const std::string& link : global.MusicLinks) size += link.size() + kIndexAndEnd;
   std::string text;
-  text.reserve(size + size / 64);
+  text.reserve(size);
 
   for (int link = 0; link <= kLastStoredMusicLink; ++link) {
     if (!global.MusicLink(link).empty()) AppendLine(text, link, global.MusicLink(link));
   }
   text.append(kLineEnd);
   for (int page = 0; page <= kLastPage; ++page) {
-    if (!global.Page(page).empty())
-      AppendLine(text, page, Replaced(global.Page(page), kLineEnd, kStoredLineBreak));
+    if (!global.Page(page).empty()) AppendLine(text, page, OnOneLine(global.Page(page)));
   }
   return text;
 }

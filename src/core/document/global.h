@@ -15,8 +15,11 @@ inline constexpr int kLastSetting = 20;     ///< settings are numbered 1 to 20
 
 /// The state that the windows share: the document in memory, the place in it and the preferences.
 struct Global {
-  std::array<std::string, 1001> Pages;      ///< page records; an empty one is no page
-  std::array<std::string, 101> MusicLinks;  ///< music link records; an empty one is no music link
+  std::array<std::string, 1001>
+      Pages;  ///< page records by number; an empty one is no page. Entries 0 and 1000
+              ///< are no pages, but files may fill them; 1000 is never written.
+  std::array<std::string, 101> MusicLinks;  ///< music link records by number; an empty one is no music link.
+                                            ///< Entry 0 is none; 100 is never written.
   std::filesystem::path DocPath;            ///< bare file name of the open document; empty: none is open
   std::int16_t CurrentPage = 1;             ///< the page in the editor
   std::int16_t CurrentLink = 1;             ///< the row of the links grid in the entry fields
@@ -36,7 +39,7 @@ struct Global {
   const std::string& MusicLink(int number) const { return MusicLinks.at(static_cast<std::size_t>(number)); }
 };
 
-/// Empties pages 1 to 999 and music links 1 to 100.
+/// Empties pages 1 to 999 and music links 1 to 100; the entries beyond stay.
 void ClearDocument(Global& global);
 
 /// The full path of the open document's file.

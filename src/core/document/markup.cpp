@@ -5,9 +5,24 @@ namespace {
 
 constexpr auto kNotFound = std::string_view::npos;
 
+/// Finds a tag as text.find(tag, from) does. Records are full of tags that begin alike, so its second and
+/// last characters are looked at before the whole is compared.
+std::size_t FindTag(std::string_view text, std::string_view tag, std::size_t from) {
+  if (tag.size() < 2) return text.find(tag, from);
+  std::size_t at = text.find(tag.front(), from);
+  while (at != kNotFound && text.size() - at >= tag.size()) {
+    if (text[at + 1] == tag[1] && text[at + tag.size() - 1] == tag.back() &&
+        text.compare(at, tag.size(), tag) == 0) {
+      return at;
+    }
+    at = text.find(tag.front(), at + 1);
+  }
+  return kNotFound;
+}
+
 std::size_t FindOpening(std::string_view text, std::string_view tag, int occurrence) {
-  std::size_t position = text.find(tag);
-  for (; occurrence > 1 && position != kNotFound; --occurrence) position = text.find(tag, position + 1);
+  std::size_t position = FindTag(text, tag, 0);
+  for (; occurrence > 1 && position != kNotFound; --occurrence) position = FindTag(text, tag, position + 1);
   return position;
 }
 
@@ -19,13 +34,13 @@ TagWalker::TagWalker(std::string_view text, std::string_view tag)
 bool TagWalker::Next() {
   content_ = {};
   if (search_from_ == kNotFound) return false;
-  const std::size_t opening = text_.find(tag_, search_from_);
+  const std::size_t opening = FindTag(text_, tag_, search_from_);
   search_from_ = opening == kNotFound ? kNotFound : opening + 1;
   if (opening == kNotFound) return false;
 
   // The closing tag found for one element serves all that open before it, which keeps the walk linear.
   const std::size_t start = opening + tag_.size();
-  if (closing_ != kNotFound && closing_ < start) closing_ = text_.find(closing_tag_, start);
+  if (closing_ != kNotFound && closing_ < start) closing_ = FindTag(text_, closing_tag_, start);
   if (closing_ != kNotFound) content_ = text_.substr(start, closing_ - start);
   return true;
 }
@@ -34,7 +49,7 @@ std::string GetTag(std::string_view text, std::string_view tag, int occurrence) 
   const std::size_t opening = FindOpening(text, tag, occurrence);
   if (opening == kNotFound) return {};
   const std::size_t start = opening + tag.size();
-  const std::size_t end = text.find(ClosingTag(tag), start);
+  const std::size_t end = FindTag(text, ClosingTag(tag), start);
   if (end == kNotFound) return {};
   return std::string(text.substr(start, end - start));
 }
@@ -43,7 +58,7 @@ void SetTag(std::string& text, std::string_view value, std::string_view tag, int
   const std::size_t opening = FindOpening(text, tag, occurrence);
   if (opening == kNotFound) return;
   const std::size_t start = opening + tag.size();
-  const std::size_t end = text.find(ClosingTag(tag), start - 1);
+  const std::size_t end = FindTag(text, ClosingTag(tag), start - 1);
   if (end != kNotFound) text = text.substr(0, start).append(value).append(text, end);
 }
 

@@ -1,10 +1,10 @@
 #include "core/document/rescue.h"
 
+#include <exception>
 #include <string>
 #include <system_error>
 
 #include "core/document/document_file.h"
-#include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
@@ -30,13 +30,16 @@ fs::path FreeName(const fs::path& folder, const fs::path& document_name) {
 fs::path RescueDocument(const Global& global, Platform& platform, const std::vector<fs::path>& folders) {
   const std::string text = DocumentText(global);
   for (const fs::path& folder : folders) {
-    const fs::path copy = FreeName(folder, DocumentName(global));
-    if (copy.empty()) continue;
-    try {
-      platform.WriteWholeFile(copy, text);
-      return copy;
-    } catch (const RunTimeError&) {
-      // The next folder may take it.
+    // The document's own name may be one that no file system takes, or too long with its addition.
+    for (const fs::path& name : {DocumentName(global), fs::path("Project")}) {
+      const fs::path copy = FreeName(folder, name);
+      if (copy.empty()) continue;
+      try {
+        platform.WriteWholeFile(copy, text);
+        return copy;
+      } catch (const std::exception&) {
+        // The next name or folder may do.
+      }
     }
   }
   return {};

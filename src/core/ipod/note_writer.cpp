@@ -6,29 +6,38 @@
 
 #include "core/document/markup.h"
 #include "core/text/numbers.h"
+#include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
+#include "core/text/text_files.h"
 
 namespace tavrel {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kLineEnd = "\r\n";
 constexpr std::string_view kNotesMenu = "\\";
 
-std::string OpeningAnchor(std::string_view target) {
-  std::string anchor = "<a href=\"";
-  return anchor.append(target).append("\">");
+void AppendAnchor(std::string& note, std::string_view address, std::string_view text) {
+  note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
 }
 
-std::string Anchor(std::string_view target, std::string_view text) {
-  return OpeningAnchor(target).append(text).append("</a>");
+/// Opens an anchor to a link's target: the note of a page, or music.
+void AppendLinkOpening(std::string& note, const Global& global, std::string_view target) {
+  note.append("<a href=\"");
+  if (Value(target) > 0) {
+    note.append("z").append(target).append(".txt");
+  } else {
+    note.append(GetMusic(global, target));
+  }
+  note.append("\">");
 }
 
-/// A link's address on the device: the note of a page, or music.
-std::string LinkAddress(const Global& global, std::string_view target) {
-  if (Value(target) > 0) return std::string("z").append(target).append(".txt");
-  return GetMusic(global, target);
+void AppendMusic(std::string& note, const Global& global, std::string_view record) {
+  TagWalker music(record, "<music>");
+  const std::string_view caption = music.NextContent();
+  if (caption.empty()) return;
+  AppendAnchor(note, GetMusic(global, music.NextContent()), caption);
+  note.append(kLineEnd);
 }
 
 void AppendPageLinks(std::string& note, const Global& global, std::string_view record) {
@@ -38,7 +47,8 @@ void AppendPageLinks(std::string& note, const Global& global, std::string_view r
     const std::string_view text = texts.NextContent();
     const std::string_view target = targets.NextContent();
     if (text.empty() || target.empty()) return;
-    note.append(Anchor(LinkAddress(global, target), text)).append(kLineEnd);
+    AppendLinkOpening(note, global, target);
+    note.append(text).append("</a>").append(kLineEnd);
   }
 }
 
@@ -58,7 +68,11 @@ std::string GetText(const Global& global, std::string_view text, int page) {
     const std::size_t bracket = text.find_first_of("<>", at);
     result.append(text.substr(at, bracket - at));
     if (bracket == std::string_view::npos) break;
-    result.append(text[bracket] == '<' ? OpeningAnchor(LinkAddress(global, targets.NextContent())) : "</a>");
+    if (text[bracket] == '<') {
+      AppendLinkOpening(result, global, targets.NextContent());
+    } else {
+      result.append("</a>");
+    }
     at = bracket + 1;
   }
   return result;
@@ -68,9 +82,9 @@ std::string GetMusic(const Global& global, std::string_view reference) {
   if (reference.size() < 2) return std::string(kNotesMenu);
   const int number = WholeValue(reference.substr(1));
   if (number < 0 || number > kLastMusicLink) {
-    throw RunTimeError("A link names music link " + std::to_string(number) + ", but only 0 to " +
-                       std::to_string(kLastMusicLink) + " exist.\nThe link's target reads \"" +
-                       std::string(reference) + "\". Correct it and publish again.");
+    throw RunTimeError("The target of a link reads " + Quoted(reference) +
+                       ", but music links are numbered 0 to " + std::to_string(kLastMusicLink) +
+                       ".\nCorrect the target and publish again.");
   }
 
   constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kFields = {{
@@ -95,18 +109,23 @@ std::string NoteName(int page) {
 
 std::string NoteText(const Global& global, int page, const PublishOptions& options) {
   const std::string& record = global.Page(page);
-  std::string note = "<title>";
-  note.append(page == 1 ? "-" : "").append(GetTag(record, "<title>", 1)).append("</title>").append(kLineEnd);
+  std::string note;
+  note.reserve(record.size() + record.size() / 4);
+  note.append("<title>")
+      .append(page == 1 ? "-" : "")
+      .append(GetTag(record, "<title>", 1))
+      .append("</title>")
+      .append(kLineEnd);
   note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
   if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
 
-  const std::string caption = GetTag(record, "<music>", 1);
-  if (!caption.empty()) {
-    note.append(Anchor(GetMusic(global, GetTag(record, "<music>", 2)), caption)).append(kLineEnd);
-  }
+  AppendMusic(note, global, record);
   note.append(GetText(global, GetTag(record, "<text>", 1), page)).append(kLineEnd);
   AppendPageLinks(note, global, record);
-  if (options.NotesMenuLink) note.append(Anchor(kNotesMenu, "Notes menu")).append(kLineEnd);
+  if (options.NotesMenuLink) {
+    AppendAnchor(note, kNotesMenu, "Notes menu");
+    note.append(kLineEnd);
+  }
   return note;
 }
 
@@ -114,8 +133,6 @@ void PublishNotes(const Global& global, Platform& platform, const fs::path& fold
                   const PublishOptions& options) {
   std::error_code error;
   fs::create_directory(folder, error);
-  if (!error && !fs::is_directory(folder, error) && !error)
-    error = std::make_error_code(std::errc::not_a_directory);
   if (error) throw FileError(folder, "could not be made", error);
 
   for (int page = 1; page <= kLastPage; ++page) {

@@ -16,7 +16,7 @@ struct Message {
   std::string Title;
 };
 
-inline constexpr std::string_view kProgramName = "Tavrel Writer";
+inline constexpr const char* kProgramName = "Tavrel Writer";
 
 /// The program's fixed messages.
 namespace messages {

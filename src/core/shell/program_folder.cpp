@@ -8,18 +8,34 @@ namespace tavrel {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr const char* kSettingsName = "tavrel.ini";
+
+}  // namespace
+
 fs::path FindProgramFolder(const fs::path& executable_folder, const fs::path& documents_folder) {
   std::error_code error;
-  if (fs::is_regular_file(executable_folder / "tavrel.ini", error)) return executable_folder;
+  if (fs::is_regular_file(executable_folder / kSettingsName, error)) return executable_folder;
   return documents_folder / "Tavrel Writer";
 }
 
-bool EnterProgramFolder(const fs::path& folder) {
+void EnterProgramFolder(const fs::path& folder) {
   std::error_code error;
-  const bool made = fs::create_directories(folder, error);
+  fs::create_directories(folder, error);
   if (!error) fs::current_path(folder, error);
   if (error) throw FileError(folder, "could not be opened", error);
-  return made;
+}
+
+bool IsFirstStart(const fs::path& folder) {
+  std::error_code error;
+  return !fs::exists(folder / kSettingsName, error);
+}
+
+void ReturnToProgramFolder(const Global& global) {
+  std::error_code error;
+  fs::current_path(global.ProgramFolder, error);
+  if (error) throw FileError(global.ProgramFolder, "could not be opened", error);
 }
 
 }  // namespace tavrel

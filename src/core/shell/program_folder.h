@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "core/document/global.h"
+
 namespace tavrel {
 
 /// The folder with the program's own files: beside the executable if `tavrel.ini` lies there (a portable
@@ -9,8 +11,13 @@ namespace tavrel {
 std::filesystem::path FindProgramFolder(const std::filesystem::path& executable_folder,
                                         const std::filesystem::path& documents_folder);
 
-/// Makes the program's folder if it is missing, and makes it the current folder. True if it was made now.
-/// Throws FileError.
-bool EnterProgramFolder(const std::filesystem::path& folder);
+/// Makes the program's folder if it is missing, and makes it the current folder. Throws FileError.
+void EnterProgramFolder(const std::filesystem::path& folder);
+
+/// Whether the program has never run to the point where it writes its settings.
+bool IsFirstStart(const std::filesystem::path& folder);
+
+/// Makes the program's folder the current one again. Throws FileError.
+void ReturnToProgramFolder(const Global& global);
 
 }  // namespace tavrel

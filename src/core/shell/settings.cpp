@@ -76,7 +76,7 @@ void SaveSettings(Global& global, Platform& platform) {
   global.Settings[kSkinFlag] = global.UseSkin ? "1" : "0";
   std::string text;
   for (std::size_t entry = 1; entry <= kLastSetting; ++entry)
-    text.append(global.Settings[entry]).append("\r\n");
+    text.append(global.Settings[entry]).append(kLineEnd);
   platform.WriteWholeFile(SettingsFile(global), text);
 }
 

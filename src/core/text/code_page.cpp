@@ -62,7 +62,8 @@ CodePage::CodePage(const Characters& characters, const Bytes& upper)
     const auto capital = static_cast<unsigned char>(upper[byte]);
     if (capital != byte) lower_[capital] = static_cast<char>(byte);
   }
-  std::sort(by_character_.begin(), by_character_.end());
+  std::stable_sort(by_character_.begin(), by_character_.end(),
+                   [](const auto& a, const auto& b) { return a.first < b.first; });
 }
 
 std::optional<char> CodePage::Byte(char32_t character) const {

@@ -7,6 +7,8 @@
 #include <tuple>
 #include <utility>
 
+#include "core/text/plain_ascii.h"
+
 namespace tavrel {
 namespace {
 
@@ -28,8 +30,12 @@ std::tm LocalTime(fs::file_time_type time) {
   return local;
 }
 
-bool HasExtension(std::string_view lower_name, std::string_view extension) {
-  return lower_name.size() >= extension.size() && lower_name.ends_with(extension);
+/// Stands for a date that the system's clock cannot hold.
+std::tm UnknownTime() {
+  std::tm time{};
+  time.tm_mday = 1;
+  time.tm_year = 70;
+  return time;
 }
 
 }  // namespace
@@ -47,18 +53,16 @@ std::string CleanName(std::string_view typed) {
 }
 
 fs::path PathFromName(std::string_view name, const CodePage& code_page) {
-  return {code_page.Decode(name)};
+  std::u32string characters = code_page.Decode(name);
+  std::erase(characters, U'\0');
+  return {characters};
 }
 
 std::string NameInCodePage(const fs::path& name, const CodePage& code_page) {
   try {
     return code_page.Encode(name.u32string());
   } catch (const std::exception&) {
-    // Not valid text in the file system's encoding: keep what is plain.
-    std::string bytes = name.string();
-    std::replace_if(
-        bytes.begin(), bytes.end(), [](char c) { return (c & '\x80') != 0; }, '?');
-    return bytes;
+    return PlainAscii(name.string());
   }
 }
 
@@ -81,9 +85,9 @@ std::vector<FolderFile> ListFiles(const fs::path& folder, std::string_view exten
     if (!entry->is_regular_file(file_error)) continue;
     const fs::path name = entry->path().filename();
     std::string key = code_page.Lower(NameInCodePage(name, code_page));
-    if (!HasExtension(key, extension)) continue;
+    if (!key.ends_with(extension)) continue;
     const auto modified = entry->last_write_time(file_error);
-    if (!file_error) found.push_back({std::move(key), {name, LocalTime(modified)}});
+    found.push_back({std::move(key), {name, file_error ? UnknownTime() : LocalTime(modified)}});
   }
   std::sort(found.begin(), found.end(), [](const Found& a, const Found& b) {
     return std::tie(a.SortKey, a.File.Name.native()) < std::tie(b.SortKey, b.File.Name.native());

@@ -17,7 +17,7 @@ std::string_view TrimBlanks(std::string_view text);
 /// What remains may be empty, or begin or end with a blank.
 std::string CleanName(std::string_view typed);
 
-/// A file's path from a name in the code page.
+/// A file's path from a name in the code page, without NUL characters, which no file name can hold.
 std::filesystem::path PathFromName(std::string_view name, const CodePage& code_page);
 
 /// A file name in the code page; characters that it does not hold become "?".

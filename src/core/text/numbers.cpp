@@ -5,6 +5,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <locale>
+#include <sstream>
 
 namespace tavrel {
 namespace {
@@ -38,11 +40,13 @@ std::size_t NumberLength(std::string_view text) {
   return end;
 }
 
-/// Whether a number that is too large or too small to hold is the latter.
-bool IsTiny(std::string_view number) {
-  const std::size_t exponent = number.find_first_of("eE");
-  if (exponent != std::string_view::npos) return number[exponent + 1] == '-';
-  return number.find_first_not_of('0') == number.find('.');
+/// A number too large or too small to hold: the largest one, or one near 0.
+double ExtremeValue(std::string_view number) {
+  std::istringstream stream{std::string(number)};
+  stream.imbue(std::locale::classic());
+  double value = 0;
+  stream >> value;
+  return value;
 }
 
 }  // namespace
@@ -66,8 +70,7 @@ double Value(std::string_view text) {
 
   double value = 0;
   const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (parsed.ec == std::errc::result_out_of_range)
-    value = IsTiny(text) ? 0 : std::numeric_limits<double>::max();
+  if (parsed.ec == std::errc::result_out_of_range) value = ExtremeValue(text);
   return negative ? -value : value;
 }
 

@@ -1,6 +1,6 @@
 #include "core/text/run_time_error.h"
 
-#include <algorithm>
+#include "core/text/plain_ascii.h"
 
 namespace tavrel {
 namespace {
@@ -14,6 +14,7 @@ std::string NextStep(const std::error_code& error) {
   if (error == std::errc::no_such_file_or_directory)
     return "Look whether the file or its folder was moved or renamed.";
   if (error == std::errc::is_a_directory) return "A folder has that name. Rename it or choose another name.";
+  if (error == std::errc::filename_too_long) return "Choose a shorter name.";
   return "Check the disk and try again.";
 }
 
@@ -28,10 +29,7 @@ std::string PathText(const std::filesystem::path& path) {
     const std::u8string text = std::filesystem::path(path.u32string()).u8string();
     return {text.begin(), text.end()};
   } catch (const std::exception&) {
-    std::string text = path.string();
-    std::replace_if(
-        text.begin(), text.end(), [](char c) { return (c & '\x80') != 0; }, '?');
-    return text;
+    return PlainAscii(path.string());
   }
 }
 

@@ -7,6 +7,9 @@
 
 namespace tavrel {
 
+/// How every line of a file that the program writes ends.
+inline constexpr std::string_view kLineEnd = "\r\n";
+
 /// All bytes of a file. Throws FileError.
 std::string ReadWholeFile(const std::filesystem::path& file);
 

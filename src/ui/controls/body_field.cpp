@@ -78,8 +78,7 @@ void BodyField::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::InsertLineSeparator)) {
     textCursor().insertBlock();
     ensureCursorVisible();
-  } else if (!event->text().isEmpty() && event->text().at(0).isPrint() &&
-             !IsFit(event->text(), *code_page_, kLineFeed)) {
+  } else if (IsTypedText(event->text()) && !IsFit(event->text(), *code_page_, kLineFeed)) {
     InsertFitted(event->text());
   } else {
     QPlainTextEdit::keyPressEvent(event);
@@ -118,6 +117,7 @@ void BodyField::InsertFitted(const QString& text) {
   const FittedText fitted = Fit(text, *code_page_, kLineFeed);
   if (HasEndlessWord(fitted.Text)) setWordWrapMode(QTextOption::WrapAnywhere);
   textCursor().insertText(fitted.Text);
+  if (HasEndlessWord(textCursor().block().text())) setWordWrapMode(QTextOption::WrapAnywhere);
   ensureCursorVisible();
   if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
 }

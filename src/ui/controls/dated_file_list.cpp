@@ -1,26 +1,58 @@
 #include "ui/controls/dated_file_list.h"
 
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include <map>
+#include <string>
+#include <utility>
+
 #include "core/text/file_names.h"
 #include "ui/controls/text_conversion.h"
 
 namespace tavrel {
+namespace {
+
+std::string ShownName(const FolderFile& file, const CodePage& code_page) {
+  return NameInCodePage(WithoutExtension(file.Name), code_page);
+}
+
+}  // namespace
 
 DatedFileList::DatedFileList(QWidget* parent) : QListWidget(parent) {
   QFont fixed_pitch("Courier New");
   fixed_pitch.setStyleHint(QFont::TypeWriter);
   fixed_pitch.setPointSizeF(font().pointSizeF());
   setFont(fixed_pitch);
-  connect(this, &QListWidget::itemDoubleClicked, this, &DatedFileList::DblClick);
 }
 
 void DatedFileList::Fill(const std::filesystem::path& folder, std::string_view extension,
                          const CodePage& code_page) {
   clear();
   files_.clear();
-  for (const FolderFile& file : ListFiles(folder, extension, code_page)) {
-    const std::string name = NameInCodePage(WithoutExtension(file.Name), code_page);
-    addItem(ToText(FileListEntry(name, file.Modified), code_page));
-    files_.push_back(file.Name);
+  std::map<std::string, std::vector<FolderFile>> by_name;
+  for (FolderFile& file : ListFiles(folder, extension, code_page)) {
+    by_name[code_page.Lower(ShownName(file, code_page))].push_back(std::move(file));
+  }
+  for (const auto& [key, files] : by_name) {
+    for (const FolderFile& file : files) {
+      addItem(ToText(FileListEntry(ShownName(file, code_page), file.Modified), code_page));
+      files_.push_back(file.Name);
+    }
+  }
+}
+
+void DatedFileList::mouseDoubleClickEvent(QMouseEvent* event) {
+  QListWidget::mouseDoubleClickEvent(event);
+  if (event->button() == Qt::LeftButton && itemAt(event->position().toPoint()) != nullptr) emit DblClick();
+}
+
+void DatedFileList::keyPressEvent(QKeyEvent* event) {
+  const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (arrow && selectedItems().isEmpty()) {
+    setCurrentRow(0);
+  } else {
+    QListWidget::keyPressEvent(event);
   }
 }
 

@@ -18,7 +18,8 @@ class DatedFileList : public QListWidget {
  public:
   explicit DatedFileList(QWidget* parent = nullptr);
 
-  /// Lists the files of a folder whose names end in `extension`, shown without it.
+  /// Lists the files of a folder whose names end in `extension`, shown without it and
+  /// sorted as shown, without letter case.
   void Fill(const std::filesystem::path& folder, std::string_view extension, const CodePage& code_page);
 
   /// The bare name of the selected file; empty if none is. Names cut to the same 25 characters stay apart.
@@ -26,6 +27,10 @@ class DatedFileList : public QListWidget {
 
  signals:
   void DblClick();
+
+ protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   std::vector<std::filesystem::path> files_;

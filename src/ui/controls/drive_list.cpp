@@ -1,5 +1,7 @@
 #include "ui/controls/drive_list.h"
 
+#include <QWheelEvent>
+
 #include <algorithm>
 #include <utility>
 
@@ -33,6 +35,10 @@ void DriveList::SetDriveOf(const fs::path& folder) {
         return SharedParts(a.Root, folder) < SharedParts(b.Root, folder);
       });
   setCurrentIndex(static_cast<int>(std::distance(volumes_.begin(), closest)));
+}
+
+void DriveList::wheelEvent(QWheelEvent* event) {
+  event->ignore();
 }
 
 }  // namespace tavrel

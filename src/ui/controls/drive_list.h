@@ -28,6 +28,10 @@ class DriveList : public QComboBox {
   /// The user has chosen another disk.
   void Change();
 
+ protected:
+  /// A wheel that turns over a closed list scrolls what lies around it and chooses nothing.
+  void wheelEvent(QWheelEvent* event) override;
+
  private:
   std::vector<Volume> volumes_;
 };

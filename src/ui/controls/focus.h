@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QApplication>
 #include <QFocusEvent>
 
 namespace tavrel {
@@ -7,8 +8,8 @@ namespace tavrel {
 /// Whether a control has lost the focus to another one. Opening a menu or a list and going to another window
 /// only borrow it.
 inline bool IsFocusLost(const QFocusEvent& event) {
-  return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason &&
-         event.reason() != Qt::ActiveWindowFocusReason;
+  return QApplication::activePopupWidget() == nullptr && event.reason() != Qt::PopupFocusReason &&
+         event.reason() != Qt::MenuBarFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
 }
 
 }  // namespace tavrel

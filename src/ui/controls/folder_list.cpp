@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QStyle>
 
 #include "ui/controls/text_conversion.h"
@@ -15,14 +16,12 @@ constexpr int kFolderRole = Qt::UserRole;
 
 }  // namespace
 
-FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
-  connect(this, &QListWidget::itemDoubleClicked, this, &FolderList::Open);
-}
+FolderList::FolderList(QWidget* parent) : QListWidget(parent) {}
 
-bool FolderList::SetPath(const fs::path& path) {
+std::error_code FolderList::SetPath(const fs::path& path) {
   std::error_code error;
   const fs::directory_iterator readable(path, error);
-  if (error) return false;
+  if (error) return error;
   path_ = path;
   clear();
 
@@ -40,7 +39,12 @@ bool FolderList::SetPath(const fs::path& path) {
       folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
   for (const QString& name : names) AddFolder(path / ToPath(name), name, depth + 1, false);
   setCurrentRow(own_row);
-  return true;
+  return {};
+}
+
+void FolderList::mouseDoubleClickEvent(QMouseEvent* event) {
+  const QListWidgetItem* item = itemAt(event->position().toPoint());
+  if (event->button() == Qt::LeftButton && item != nullptr) Open(item);
 }
 
 void FolderList::keyPressEvent(QKeyEvent* event) {
@@ -57,12 +61,16 @@ void FolderList::AddFolder(const fs::path& folder, const QString& name, int dept
   auto* item = new QListWidgetItem(QString(depth * kBlanksPerLevel, ' ') + name, this);
   item->setIcon(style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirIcon));
   item->setData(kFolderRole, ToText(folder));
-  item->setToolTip(ToText(folder));
 }
 
 void FolderList::Open(const QListWidgetItem* item) {
   const fs::path folder = ToPath(item->data(kFolderRole).toString());
-  if (folder != path_ && SetPath(folder)) emit Change();
+  if (folder == path_) return;
+  if (const std::error_code error = SetPath(folder)) {
+    emit OpenFailed(folder, error);
+  } else {
+    emit Change();
+  }
 }
 
 }  // namespace tavrel

@@ -3,6 +3,7 @@
 #include <QListWidget>
 
 #include <filesystem>
+#include <system_error>
 
 namespace tavrel {
 
@@ -17,14 +18,17 @@ class FolderList : public QListWidget {
   /// The opened folder.
   const std::filesystem::path& Path() const { return path_; }
 
-  /// Opens a folder; false, with nothing changed, if it cannot be read.
-  bool SetPath(const std::filesystem::path& path);
+  /// Opens a folder; gives the error, with nothing changed, if it cannot be read.
+  std::error_code SetPath(const std::filesystem::path& path);
 
  signals:
   /// The user has opened another folder.
   void Change();
+  /// The user wanted to open a folder that cannot be read.
+  void OpenFailed(const std::filesystem::path& folder, const std::error_code& error);
 
  protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

@@ -2,7 +2,11 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
+#include <utility>
+
+#include "ui/controls/focus.h"
 #include "ui/controls/grid_model.h"
 
 namespace tavrel {
@@ -30,7 +34,6 @@ Grid::Grid(QWidget* parent) : QTableView(parent), model_(new GridModel(this)) {
   horizontalHeader()->setHighlightSections(false);
   horizontalHeader()->setSectionsClickable(false);
   SizeRows();
-  connect(this, &QTableView::clicked, this, [this](const QModelIndex& cell) { emit Click(cell.row() + 1); });
 }
 
 void Grid::SetCodePage(const CodePage& code_page) {
@@ -77,6 +80,7 @@ void Grid::SelectRow(int row) {
   selectionModel()->setCurrentIndex(model_->index(row - 1, 0),
                                     QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   setAutoScroll(scrolls);
+  selected_row_ = row;
 }
 
 void Grid::ShowRow(int row) {
@@ -85,6 +89,33 @@ void Grid::ShowRow(int row) {
 
 int Grid::WidthOf(const QString& sample) const {
   return fontMetrics().horizontalAdvance(sample) + 2 * kCellPadding;
+}
+
+void Grid::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_row_ = rowAt(event->position().toPoint().y()) + 1;
+  QTableView::mousePressEvent(event);
+}
+
+void Grid::mouseMoveEvent(QMouseEvent* /*event*/) {
+  // Dragging would select other rows than the one that is then clicked.
+}
+
+void Grid::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  const int row = event->button() == Qt::LeftButton ? std::exchange(pressed_row_, 0) : 0;
+  if (row > 0) emit Click(row);
+}
+
+void Grid::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  if (IsFocusLost(*event) && selected_row_ > 0) SelectRow(selected_row_);
+}
+
+QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index,
+                                                           const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows
+                         : QItemSelectionModel::NoUpdate;
 }
 
 void Grid::keyPressEvent(QKeyEvent* event) {

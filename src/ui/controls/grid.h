@@ -38,7 +38,7 @@ class Grid : public QTableView {
   int Row() const;
 
   /// Selects a row without scrolling: a grid that moved under the pointer would make people click on the
-  /// wrong row.
+  /// wrong row. The keyboard may go to other rows; the selection comes back when the grid loses the focus.
   void SelectRow(int row);
 
   /// Scrolls just so far that the row can be seen.
@@ -48,17 +48,25 @@ class Grid : public QTableView {
   int WidthOf(const QString& sample) const;
 
  signals:
-  /// A row was clicked, or Enter was pressed on it.
+  /// A row was clicked with the left button, or Enter was pressed on it.
   void Click(int row);
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                       const QEvent* event) const override;
   void changeEvent(QEvent* event) override;
 
  private:
   void SizeRows();
 
   GridModel* model_;
+  int selected_row_ = 0;
+  int pressed_row_ = 0;
 };
 
 }  // namespace tavrel

@@ -11,6 +11,7 @@
 #include <QMimeData>
 #include <QToolTip>
 
+#include <limits>
 #include <memory>
 
 #include "ui/controls/focus.h"
@@ -23,7 +24,10 @@ constexpr QChar kBlank = u' ';
 
 }  // namespace
 
-LineField::LineField(QWidget* parent) : QLineEdit(parent), code_page_(&CodePage::Windows1252()) {}
+LineField::LineField(QWidget* parent) : QLineEdit(parent), code_page_(&CodePage::Windows1252()) {
+  // The toolkit would cut a loaded text at 32,767 characters.
+  setMaxLength(std::numeric_limits<int>::max());
+}
 
 std::string LineField::Bytes() const {
   return ToBytes(text(), *code_page_);
@@ -37,7 +41,7 @@ void LineField::SetBytes(std::string_view bytes) {
 void LineField::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Paste)) {
     PasteFitted();
-  } else if (!event->text().isEmpty() && event->text().at(0).isPrint() && !IsFitForField(event->text())) {
+  } else if (IsTypedText(event->text()) && !IsFitForField(event->text())) {
     InsertFitted(event->text());
   } else {
     QLineEdit::keyPressEvent(event);
@@ -80,9 +84,10 @@ void LineField::dropEvent(QDropEvent* event) {
 
 void LineField::contextMenuEvent(QContextMenuEvent* event) {
   const std::unique_ptr<QMenu> menu(createStandardContextMenu());
-  if (auto* paste = menu->findChild<QAction*>("edit-paste")) {
-    paste->disconnect(this);
-    connect(paste, &QAction::triggered, this, &LineField::PasteFitted);
+  for (QAction* item : menu->actions()) {
+    if (!item->text().startsWith(QLineEdit::tr("&Paste"))) continue;
+    item->disconnect(this);
+    connect(item, &QAction::triggered, this, &LineField::PasteFitted);
   }
   menu->exec(event->globalPos());
 }
@@ -112,7 +117,13 @@ void LineField::TellReplaced(int count) {
 }
 
 void LineField::PasteFitted() {
-  InsertFitted(QApplication::clipboard()->text());
+  const QString text = QApplication::clipboard()->text();
+  // The toolkit's own paste is a step of its own for Undo.
+  if (IsFitForField(text)) {
+    paste();
+  } else {
+    InsertFitted(text);
+  }
 }
 
 }  // namespace tavrel

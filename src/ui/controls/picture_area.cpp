@@ -3,6 +3,16 @@
 #include <QPainter>
 
 namespace tavrel {
+namespace {
+
+/// The middle part of a picture that has the shape of an area.
+QPixmap FillingPart(const QPixmap& picture, const QSize& area) {
+  QRect part(QPoint(), area.scaled(picture.size(), Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+  part.moveCenter(picture.rect().center());
+  return picture.copy(part);
+}
+
+}  // namespace
 
 PictureArea::PictureArea(QWidget* parent) : QWidget(parent) {}
 
@@ -15,15 +25,12 @@ void PictureArea::SetPicture(const QPixmap& picture) {
 void PictureArea::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
   if (picture_.isNull()) return;
-  const qreal ratio = devicePixelRatioF();
-  const QSize wanted = picture_.size().scaled(size() * ratio, Qt::KeepAspectRatioByExpanding);
+  const QSize wanted = size() * devicePixelRatioF();
   if (scaled_.size() != wanted) {
-    scaled_ = picture_.scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    scaled_.setDevicePixelRatio(ratio);
+    scaled_ = FillingPart(picture_, wanted).scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled_.setDevicePixelRatio(devicePixelRatioF());
   }
-  QRectF target(QPointF(0, 0), QSizeF(wanted) / ratio);
-  target.moveCenter(QRectF(rect()).center());
-  QPainter(this).drawPixmap(target.topLeft(), scaled_);
+  QPainter(this).drawPixmap(0, 0, scaled_);
 }
 
 }  // namespace tavrel

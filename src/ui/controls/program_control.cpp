@@ -1,5 +1,7 @@
 #include "ui/controls/program_control.h"
 
+#include <stdexcept>
+
 namespace tavrel {
 
 void ProgramControl::Run(const std::function<void()>& handler) noexcept {
@@ -7,6 +9,8 @@ void ProgramControl::Run(const std::function<void()>& handler) noexcept {
     handler();
   } catch (const std::exception& error) {
     Fail(error);
+  } catch (...) {
+    Fail(std::runtime_error("an unknown error"));
   }
 }
 

@@ -1,6 +1,7 @@
 #include "ui/controls/target_list.h"
 
 #include <QStringListModel>
+#include <QWheelEvent>
 
 #include "ui/controls/line_field.h"
 
@@ -37,6 +38,10 @@ std::string TargetList::Bytes() const {
 void TargetList::SetBytes(std::string_view bytes) {
   setCurrentIndex(-1);
   field_->SetBytes(bytes);
+}
+
+void TargetList::wheelEvent(QWheelEvent* event) {
+  event->ignore();
 }
 
 }  // namespace tavrel

@@ -14,8 +14,8 @@ namespace tavrel {
 
 class LineField;
 
-/// An editable list of link targets. Choosing or refilling the list never changes what was typed, and typing
-/// never completes or adds an entry.
+/// An editable list of link targets. Refilling the list never changes what was typed, and typing never
+/// completes or adds an entry.
 class TargetList : public QComboBox {
   Q_OBJECT
 
@@ -32,6 +32,10 @@ class TargetList : public QComboBox {
   void SetBytes(std::string_view bytes);
 
   LineField& Field() const { return *field_; }
+
+ protected:
+  /// A wheel that turns over a closed list scrolls what lies around it and chooses nothing.
+  void wheelEvent(QWheelEvent* event) override;
 
  private:
   LineField* field_;

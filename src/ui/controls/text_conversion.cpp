@@ -39,7 +39,7 @@ QString ToText(const std::filesystem::path& path) {
 }
 
 std::filesystem::path ToPath(const QString& text) {
-  return {text.toStdU16String()};
+  return std::filesystem::path(text.toStdU16String()).make_preferred();
 }
 
 FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break) {
@@ -59,6 +59,10 @@ FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break) {
     }
   }
   return fitted;
+}
+
+bool IsTypedText(const QString& text) {
+  return !text.isEmpty() && text.at(0).category() != QChar::Other_Control;
 }
 
 QString ReplacedNotice(int count) {

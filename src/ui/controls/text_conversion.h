@@ -28,8 +28,12 @@ struct FittedText {
   int Replaced = 0;  ///< how many characters became "?"
 };
 
-/// Replaces what the code page does not hold by "?". Line breaks of all kinds become `line_break`.
+/// Replaces what the code page does not hold by "?". Line breaks of
+/// all kinds become `line_break`.
 FittedText Fit(QStringView text, const CodePage& code_page, QChar line_break);
+
+/// Whether the text of a key event is something typed, not a control key.
+bool IsTypedText(const QString& text);
 
 /// What to tell the user about characters that became "?".
 QString ReplacedNotice(int count);

@@ -2,7 +2,7 @@
 
 #include "core/document/default_pages.h"
 #include "ui/controls/program_control.h"
-#include "ui/document/name_check.h"
+#include "ui/document/document_name.h"
 #include "ui/document/save_document.h"
 #include "ui_new_doc.h"
 

@@ -1,7 +1,7 @@
 #include "ui/document/save_as.h"
 
 #include "ui/controls/program_control.h"
-#include "ui/document/name_check.h"
+#include "ui/document/document_name.h"
 #include "ui/document/save_document.h"
 #include "ui_save_as.h"
 

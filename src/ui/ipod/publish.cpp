@@ -2,6 +2,7 @@
 
 #include "core/ipod/note_writer.h"
 #include "core/shell/messages.h"
+#include "core/shell/program_folder.h"
 #include "core/text/file_names.h"
 #include "core/text/run_time_error.h"
 #include "ui/controls/hourglass.h"
@@ -18,6 +19,10 @@ Publish::Publish(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make
   On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   On(app_.Control, ui_->Drive1, &DriveList::Change, this, [this] { Drive1_Change(); });
   On(app_.Control, ui_->Dir1, &FolderList::Change, this, [this] { Dir1_Change(); });
+  On(app_.Control, ui_->Dir1, &FolderList::OpenFailed, this,
+     [this](const std::filesystem::path& folder, const std::error_code& error) {
+       ShowError(FileError(folder, "could not be opened", error));
+     });
   Form_Load();
 }
 
@@ -34,7 +39,7 @@ void Publish::Form_Load() {
 
 void Publish::Drive1_Change() {
   const Volume& drive = ui_->Drive1->Drive();
-  if (app_.System.IsReady(drive) && ui_->Dir1->SetPath(drive.Root)) {
+  if (app_.System.IsReady(drive) && !ui_->Dir1->SetPath(drive.Root)) {
     ui_->File1->SetPath(drive.Root);
     return;
   }
@@ -60,11 +65,16 @@ void Publish::Command2_Click() {
     PublishNotes(app_.State, app_.System, ui_->Dir1->Path() / PathFromName(name, app_.CodePageInUse()),
                  options);
   } catch (const FileError& error) {
-    app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, "Publish"});
+    ShowError(error);
     return;
   }
+  ReturnToProgramFolder(app_.State);
   app_.Messages.Show(this, messages::PublishFinished());
   accept();
+}
+
+void Publish::ShowError(const FileError& error) {
+  app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, "Publish"});
 }
 
 }  // namespace tavrel

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/text/run_time_error.h"
 #include "ui/controls/dialog.h"
 
 namespace Ui {
@@ -26,6 +27,8 @@ class Publish : public Dialog {
   void Dir1_Change();
 
  private:
+  void ShowError(const FileError& error);
+
   std::unique_ptr<Ui::Publish> ui_;
 };
 

@@ -36,14 +36,14 @@ void FieldNotices::TellReplaced(int count) {
 }
 
 void FieldNotices::CheckTags(const QObject* field, const QString& text, const QStringList& closing_tags) {
-  for (const QString& tag : closing_tags) {
-    if (!text.contains(tag)) continue;
-    found_tags_[field] = tag;
-    tag_notice_->setText(QString("A page cannot keep what follows \"%1\" in this field.").arg(tag));
-    return;
-  }
   found_tags_.remove(field);
-  if (found_tags_.isEmpty()) tag_notice_->clear();
+  for (const QString& tag : closing_tags) {
+    if (text.contains(tag)) found_tags_[field] = tag;
+  }
+  tag_notice_->setText(
+      found_tags_.isEmpty()
+          ? QString()
+          : QString("A page cannot keep what follows \"%1\" in this field.").arg(found_tags_.first()));
 }
 
 }  // namespace tavrel

@@ -5,8 +5,10 @@
 
 #include "core/document/document_file.h"
 #include "core/shell/messages.h"
+#include "core/shell/program_folder.h"
 #include "core/shell/settings.h"
 #include "ui/controls/program_control.h"
+#include "ui/controls/redraw.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/document/file_menu.h"
 #include "ui/ipod/tools_commands.h"
@@ -31,16 +33,15 @@ Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new
 
   grids_ = std::make_unique<PageGrids>(app_, *ui_);
   page_ = std::make_unique<PageEditor>(app_, *ui_);
-  skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->Background);
+  skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->CoverText, *ui_->Background);
   notices_ = std::make_unique<FieldNotices>(*ui_);
   file_menu_ = std::make_unique<FileMenu>(app_, *this, this);
   tools_ = std::make_unique<ToolsCommands>(app_, *this, this);
   help_menu_ = std::make_unique<HelpMenu>(app_, *skins_, this);
   ConnectFields();
   ConnectMenus();
+  NameSeparators();
 
-  ClearGrid1();
-  ClearGrid2();
   HideControls();
 }
 
@@ -77,8 +78,17 @@ void Main::ConnectMenus() {
   run(ui_->HelpCustomise, *help_menu_, &HelpMenu::HelpCustomise_Click);
 }
 
+void Main::NameSeparators() {
+  // A form cannot name a separator.
+  for (QAction* item : ui_->HelpMenu->actions()) {
+    if (item->isSeparator()) item->setObjectName("HelpSep1");
+  }
+}
+
 void Main::Form_Load() {
+  ReturnToProgramFolder(app_.State);
   LoadSettings(app_.State, app_.System);
+  LetWindowsRedraw();
   skins_->LoadAtStart();
   ui_->EditMenu->menuAction()->setEnabled(false);
   app_.State.DocPath.clear();
@@ -118,11 +128,9 @@ void Main::LoadPage(int page) {
 
 void Main::SavePage() {
   UpdateGrid2();
-  std::string& record = app_.State.Page(app_.State.CurrentPage);
-  record.clear();
   PageFields fields = page_->TypedFields();
   fields.Links = grids_->Links();
-  record = BuildPage(fields, app_.CodePageInUse());
+  app_.State.Page(app_.State.CurrentPage) = BuildPage(fields, app_.CodePageInUse());
   UpdateGrid2();
   ui_->Text1->setFocus();
 }
@@ -157,6 +165,7 @@ void Main::ShowControls() {
   ui_->Cover->setCurrentWidget(ui_->Background);
   ui_->EditMenu->menuAction()->setEnabled(true);
   statusBar()->show();
+  ui_->Text1->setFocus();
 }
 
 void Main::HideControls() {
@@ -168,11 +177,11 @@ void Main::HideControls() {
 void Main::ShowDocumentName() {
   const QString name = ToText(DocumentName(app_.State));
   ui_->Label7->setText(name);
-  setWindowTitle(name + " - " + kProgramName.data());
+  setWindowTitle(name + " - " + kProgramName);
 }
 
 void Main::ResetCaption() {
-  setWindowTitle(kProgramName.data());
+  setWindowTitle(kProgramName);
 }
 
 void Main::MSFlexGrid1_Click(int row) {

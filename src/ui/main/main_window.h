@@ -74,6 +74,7 @@ class Main : public QMainWindow, public Editor {
  private:
   void ConnectFields();
   void ConnectMenus();
+  void NameSeparators();
 
   App& app_;
   std::unique_ptr<Ui::Main> ui_;

@@ -26,7 +26,10 @@ PageGrids::PageGrids(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
   ui_.MSFlexGrid1->SetSize(kLastLink, 2);
   ui_.MSFlexGrid2->SetCodePage(app_.CodePageInUse());
   ui_.MSFlexGrid2->SetSize(kLastPage, 3);
-  ui_.MSFlexGrid2->horizontalHeader()->setStretchLastSection(true);
+  // Title and note share what the page numbers and the scroll bar leave, however wide the pane is.
+  QHeaderView* heading = ui_.MSFlexGrid2->horizontalHeader();
+  heading->setSectionResizeMode(kTitleColumn, QHeaderView::Stretch);
+  heading->setSectionResizeMode(kNoteColumn, QHeaderView::Stretch);
 }
 
 void PageGrids::ClearLinks() {
@@ -43,7 +46,7 @@ void PageGrids::ClearLinks() {
   ui_.Label3->setFixedWidth(text_width);
   ui_.Text5->setFixedWidth(text_width);
   ui_.Label12->setFixedWidth(target_width);
-  ui_.Combo1->setFixedWidth(target_width + scroll_bar);
+  ui_.Combo1->setFixedWidth(target_width + scroll_bar + 2 * grid.frameWidth());
 }
 
 void PageGrids::ShowLinks(const PageFields& fields) {
@@ -89,11 +92,7 @@ void PageGrids::ClearPages() {
   grid.SetHeading(kTitleColumn, "Title");
   grid.SetHeading(kNoteColumn, "Notes");
 
-  const int page_width = grid.WidthOf("_PAGE_");
-  const int scroll_bar = grid.style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, &grid);
-  const int rest = grid.width() - page_width - scroll_bar - 2 * grid.frameWidth();
-  grid.setColumnWidth(kPageColumn, page_width);
-  grid.setColumnWidth(kTitleColumn, rest / 2);
+  grid.setColumnWidth(kPageColumn, grid.WidthOf("_PAGE_"));
   grid.scrollToTop();
 }
 

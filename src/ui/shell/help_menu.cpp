@@ -1,5 +1,6 @@
 #include "ui/shell/help_menu.h"
 
+#include "core/shell/program_folder.h"
 #include "ui/shell/skin_pictures.h"
 #include "ui/shell/skins.h"
 
@@ -10,6 +11,7 @@ HelpMenu::HelpMenu(App& app, SkinPictures& skins, QWidget* window)
 
 void HelpMenu::HelpCustomise_Click() {
   Skins(app_, window_).exec();
+  ReturnToProgramFolder(app_.State);
   skins_.ApplySetting();
 }
 

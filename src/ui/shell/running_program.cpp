@@ -1,9 +1,12 @@
 #include "ui/shell/running_program.h"
 
+#include <QApplication>
 #include <QDir>
 
 #include <cstdlib>
+#include <new>
 #include <string>
+#include <utility>
 
 #include "core/document/rescue.h"
 #include "core/shell/messages.h"
@@ -12,19 +15,30 @@
 #include "ui/controls/text_conversion.h"
 
 namespace tavrel {
+namespace {
+
+std::string WhatFailed(const std::exception& error) {
+  if (dynamic_cast<const RunTimeError*>(&error) != nullptr) return error.what();
+  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) return "The computer's memory is full.";
+  return std::string("Something went wrong that should not: ") + error.what();
+}
+
+}  // namespace
 
 RunningProgram::RunningProgram(Global& global, Platform& platform, MessageService& messages)
     : global_(global), platform_(platform), messages_(messages) {}
 
 void RunningProgram::Fail(const std::exception& error) {
+  if (std::exchange(failing_, true)) return;
+  while (QApplication::overrideCursor() != nullptr) QApplication::restoreOverrideCursor();
   std::string rescue;
   try {
     rescue = Rescue();
   } catch (const std::exception& rescue_error) {
     rescue = std::string("\nThe project could not be brought to safety: ") + rescue_error.what();
   }
-  messages_.Show(nullptr, {std::string(error.what()) + "\n" + rescue + "\nTavrel Writer has to end.",
-                           Buttons::Ok, Icon::Critical, std::string(kProgramName)});
+  messages_.Show(nullptr, {WhatFailed(error) + "\n" + rescue + "\nTavrel Writer has to end.", Buttons::Ok,
+                           Icon::Critical, kProgramName});
   std::_Exit(EXIT_FAILURE);
 }
 
@@ -32,13 +46,24 @@ void RunningProgram::End() {
   std::_Exit(EXIT_SUCCESS);
 }
 
+bool RunningProgram::StoreTyped() noexcept {
+  try {
+    if (store_typed_) store_typed_();
+    return true;
+  } catch (const std::exception&) {
+    return false;
+  }
+}
+
 std::string RunningProgram::Rescue() {
   if (!global_.IsDocumentOpen() || !global_.IsDocumentShown) return {};
-  if (store_typed_) store_typed_();
+  const bool complete = StoreTyped();
   const std::filesystem::path copy = RescueDocument(
       global_, platform_, {global_.ProgramFolder, ToPath(QDir::homePath()), ToPath(QDir::tempPath())});
   if (copy.empty()) return "\nThe project could not be brought to safety: no folder could be written to.";
-  return "\nYour project is safe, with everything you typed, in\n" + PathText(copy) + "\n";
+  const std::string typed =
+      complete ? ", with everything you typed, in\n" : ", but for the page you were on, in\n";
+  return "\nYour project is safe" + typed + PathText(copy) + "\n";
 }
 
 }  // namespace tavrel

@@ -19,12 +19,16 @@ class RunningProgram final : public ProgramControl {
   void SetStoreTyped(std::function<void()> store) { store_typed_ = std::move(store); }
 
   /// Saves the open document beside its own file, or else in the home or the temporary folder, says what
-  /// failed and where the copy is, and ends the program with status 1.
-  [[noreturn]] void Fail(const std::exception& error) override;
+  /// failed and where the copy is, and ends the program with status 1. A further error while the message
+  /// stands changes nothing.
+  void Fail(const std::exception& error) override;
 
   [[noreturn]] void End() override;
 
  private:
+  /// Whether everything typed is in the document now.
+  bool StoreTyped() noexcept;
+
   /// A sentence on where the copy is; empty if there was nothing to rescue.
   std::string Rescue();
 
@@ -32,6 +36,7 @@ class RunningProgram final : public ProgramControl {
   Platform& platform_;
   MessageService& messages_;
   std::function<void()> store_typed_;
+  bool failing_ = false;
 };
 
 }  // namespace tavrel

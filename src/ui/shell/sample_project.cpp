@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <system_error>
+
 // The resources of a static library have to be asked for, outside any namespace.
 static void InitResources() {
   Q_INIT_RESOURCE(tavrel);
@@ -14,6 +16,8 @@ void InstallSampleProject(const std::filesystem::path& program_folder, Platform&
   InitResources();
   QFile sample(QString(":/sample/") + kName);
   if (!sample.open(QIODevice::ReadOnly)) qFatal("the sample project is not compiled in");
+  std::error_code error;
+  if (std::filesystem::exists(program_folder / kName, error)) return;
   platform.WriteWholeFile(program_folder / kName, sample.readAll().toStdString());
 }
 

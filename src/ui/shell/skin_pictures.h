@@ -2,6 +2,9 @@
 
 #include "core/document/global.h"
 
+class QPixmap;
+class QWidget;
+
 namespace tavrel {
 
 class PictureArea;
@@ -10,7 +13,8 @@ class PictureArea;
 /// lies behind the editor.
 class SkinPictures {
  public:
-  SkinPictures(const Global& global, PictureArea& cover, PictureArea& background);
+  /// `cover_text` stands on the cover as long as that has no picture.
+  SkinPictures(const Global& global, PictureArea& cover, QWidget& cover_text, PictureArea& background);
 
   /// With skins on, shows both; a missing file gives an empty picture.
   void LoadAtStart();
@@ -19,8 +23,11 @@ class SkinPictures {
   void ApplySetting();
 
  private:
+  void ShowOnCover(const QPixmap& picture);
+
   const Global& global_;
   PictureArea& cover_;
+  QWidget& cover_text_;
   PictureArea& background_;
 };
 

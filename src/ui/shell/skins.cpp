@@ -1,10 +1,10 @@
 #include "ui/shell/skins.h"
 
-#include <QCoreApplication>
 #include <QStyle>
 
 #include "core/shell/settings.h"
 #include "ui/controls/program_control.h"
+#include "ui/controls/redraw.h"
 #include "ui_skins.h"
 
 namespace tavrel {
@@ -26,7 +26,7 @@ void Skins::Form_Load() {
 void Skins::Command1_Click() {
   app_.State.UseSkin = ui_->Check1->isChecked();
   SaveSettings(app_.State, app_.System);
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  LetWindowsRedraw();
   accept();
 }
 

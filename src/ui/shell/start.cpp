@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QStandardPaths>
 
+#include <memory>
+
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
 #include "platform/system_platform.h"
@@ -20,14 +22,14 @@ void OpenProgramFolder(Global& global, Platform& platform) {
   global.ProgramFolder =
       FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
                         ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
-  const bool first_start = EnterProgramFolder(global.ProgramFolder);
-  if (first_start) InstallSampleProject(global.ProgramFolder, platform);
+  EnterProgramFolder(global.ProgramFolder);
+  if (IsFirstStart(global.ProgramFolder)) InstallSampleProject(global.ProgramFolder, platform);
 }
 
 }  // namespace
 
 int RunTavrelWriter(QApplication& application) {
-  QApplication::setApplicationName(kProgramName.data());
+  QApplication::setApplicationName(kProgramName);
   QApplication::setQuitOnLastWindowClosed(false);
 
   const auto platform = MakeSystemPlatform();
@@ -36,16 +38,17 @@ int RunTavrelWriter(QApplication& application) {
   RunningProgram program(global, *platform, messages);
   App app{global, *platform, messages, program};
 
+  // The window outlives what runs in it: whatever fails, its fields can still be rescued.
+  std::unique_ptr<Main> window;
   int status = 0;
   program.Run([&] {
     OpenProgramFolder(global, *platform);
-    Main window(app);
-    program.SetStoreTyped([&window] { window.StoreTyped(); });
-    QObject::connect(&window, &Main::Closed, &application, &QCoreApplication::quit);
-    window.Form_Load();
-    window.show();
+    window = std::make_unique<Main>(app);
+    program.SetStoreTyped([&window] { window->StoreTyped(); });
+    QObject::connect(window.get(), &Main::Closed, &application, &QCoreApplication::quit);
+    window->Form_Load();
+    window->show();
     status = QApplication::exec();
-    program.SetStoreTyped({});
   });
   return status;
 }

@@ -86,5 +86,11 @@ TEST(DocumentText, WritesOneByteACharacter) {
   EXPECT_EQ(DocumentText(global), "\r\n 1 ,<title>Caf\xE9</title>\r\n");
 }
 
+TEST(DocumentText, NeverLetsALineFeedBreakALine) {
+  Global global;
+  global.Page(1) = "<text>a\nb\r\nc\n</text>";
+  EXPECT_EQ(DocumentText(global), "\r\n 1 ,<text>a<p>b<p>c<p></text>\r\n");
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -79,5 +79,12 @@ TEST_F(RescueTest, GivesNoPathIfNoFolderTakesIt) {
   EXPECT_TRUE(Rescue({}).empty());
 }
 
+TEST_F(RescueTest, TakesAPlainNameWhereTheDocumentsOwnIsRefused) {
+  State.DocPath = std::string(245, 'n') + ".dat";
+  const fs::path copy = Rescue({First.Path()});
+  EXPECT_EQ(copy.filename(), "Project (rescued).dat");
+  EXPECT_EQ(First.Read(copy.filename()), kSongs);
+}
+
 }  // namespace
 }  // namespace tavrel::test

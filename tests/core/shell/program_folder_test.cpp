@@ -43,14 +43,14 @@ TEST(FindProgramFolder, MakesNothing) {
 TEST(EnterProgramFolder, MakesTheFolderOnFirstStart) {
   const TemporaryFolder folder;
   const fs::path made = folder.Path() / "Documents" / "Tavrel Writer";
-  EXPECT_TRUE(EnterProgramFolder(made));
+  EnterProgramFolder(made);
   EXPECT_EQ(fs::current_path(), made);
 }
 
 TEST(EnterProgramFolder, MakesAnExistingFolderCurrent) {
   const TemporaryFolder folder;
   folder.Write("Guide.dat", "x");
-  EXPECT_FALSE(EnterProgramFolder(folder.Path()));
+  EnterProgramFolder(folder.Path());
   EXPECT_EQ(fs::current_path(), folder.Path());
   EXPECT_EQ(folder.Read("Guide.dat"), "x");
 }
@@ -64,6 +64,23 @@ TEST(EnterProgramFolder, NamesAFolderThatCannotBeEntered) {
                 ThrowsMessage<FileError>(HasSubstr(PathText(impossible))));
   }
   EXPECT_EQ(fs::current_path(), before);
+}
+
+TEST(IsFirstStart, LastsUntilTheSettingsAreWritten) {
+  const TemporaryFolder folder;
+  EXPECT_TRUE(IsFirstStart(folder.Path()));
+  folder.Write("tavrel.ini", "");
+  EXPECT_FALSE(IsFirstStart(folder.Path()));
+}
+
+TEST(ReturnToProgramFolder, MakesItCurrentOrNamesIt) {
+  const TemporaryFolder folder;
+  Global global;
+  global.ProgramFolder = folder.Path() / "inner";
+  EXPECT_THROW(ReturnToProgramFolder(global), FileError);
+  std::filesystem::create_directory(global.ProgramFolder);
+  ReturnToProgramFolder(global);
+  EXPECT_EQ(std::filesystem::current_path(), global.ProgramFolder);
 }
 
 }  // namespace

@@ -53,5 +53,14 @@ TEST(LengthBarTest, TheWidthStaysWithinItsBounds) {
   EXPECT_EQ(bar.Width(), 0);
 }
 
+TEST(PictureAreaTest, AVeryNarrowPictureFillsTheAreaToo) {
+  QImage narrow(1, 3000, QImage::Format_RGB32);
+  narrow.fill(Qt::red);
+  PictureArea area;
+  area.resize(1000, 600);
+  area.SetPicture(QPixmap::fromImage(narrow));
+  EXPECT_EQ(area.grab().toImage().pixelColor(999, 599), QColor(Qt::red));
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -91,5 +91,14 @@ TEST_F(DocumentFileTest, SavingMakesTheProgramsFolderTheCurrentOne) {
   EXPECT_FALSE(Folder.Has("elsewhere/Guide.dat"));
 }
 
+TEST_F(DocumentFileTest, SavingLetsPendingEventsRun) {
+  OpenDocument("Trio.dat", kTrio);
+  bool ran = false;
+  QMetaObject::invokeMethod(
+      &Window(), [&ran] { ran = true; }, Qt::QueuedConnection);
+  Find<QAction>(Window(), "FileSave").trigger();
+  EXPECT_TRUE(ran);
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -157,5 +157,27 @@ TEST_F(PublishFolderTest, ANameOutsidePlainLettersIsAFolderOfThatName) {
   EXPECT_TRUE(Folder.Has(std::filesystem::path(u8"Caf\u00e9/z001.txt")));
 }
 
+TEST_F(PublishFolderTest, ReturnsToTheProgramsFolder) {
+  OpenDocument("Trio.dat", kTrio);
+  PlayPublish([](QWidget& dialog) {
+    std::filesystem::current_path("/");
+    Click(dialog, "Command2");
+  });
+  EXPECT_EQ(std::filesystem::current_path(), Folder.Path());
+}
+
+TEST_F(PublishFolderTest, AFolderThatIsGoneIsNamedInAMessage) {
+  OpenDocument("Trio.dat", kTrio);
+  std::filesystem::create_directory(Folder.Path() / "gone");
+  PlayPublish([this](QWidget& dialog) {
+    std::filesystem::remove(Folder.Path() / "gone");
+    OpenFolder(dialog, "gone");
+    EXPECT_TRUE(dialog.isVisible());
+    Click(dialog, "Command1");
+  });
+  ASSERT_EQ(Messages.Shown.size(), 1U);
+  EXPECT_NE(LastMessage().Text.find("gone\ncould not be opened"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -82,5 +82,12 @@ TEST_F(FieldNoticesTest, TheTagOfAnotherElementIsNoMatter) {
   EXPECT_EQ(TagNotice(), "");
 }
 
+TEST_F(FieldNoticesTest, TheNoticeNamesATagThatStillStands) {
+  TypeInto(Title(), "</title>");
+  TypeInto(Note(), "</note>");
+  TypeInto(Note(), "");
+  EXPECT_EQ(TagNotice(), "A page cannot keep what follows \"</title>\" in this field.");
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -79,5 +79,22 @@ TEST_F(ForeignTextTest, TypedLettersAreStoredAsOneByteEach) {
   EXPECT_NE(Save().find("<title>Caf\xE9 \x80</title>"), std::string::npos);
 }
 
+TEST_F(ForeignTextTest, LongTextsInOneLineFieldsAreKeptWhole) {
+  const std::string longest(100000, 'w');
+  const std::string file = "\r\n 1 ,<title>" + longest + "</title><note>" + longest +
+                           "</note><link><linktext>" + longest + "</linktext><linkto>M" + longest +
+                           "</linkto></link><music>" + longest + "</music><music>M1</music>\r\n";
+  OpenDocument("Long.dat", file);
+  EXPECT_EQ(Save(), file);
+}
+
+TEST_F(ForeignTextTest, DeletingHalfALineBreakNeverBreaksTheFile) {
+  OpenDocument("Breaks.dat", "\r\n 1 ,<title>a<p>5000 b, c</title><text>precious</text>\r\n");
+  Title().setFocus();
+  Title().setCursorPosition(1);
+  PressKey(Title(), Qt::Key_Delete);
+  EXPECT_EQ(Save(), "\r\n 1 ,<title>a<p>5000 b, c</title><text>precious</text>\r\n");
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -41,6 +41,7 @@ TEST_F(LinksTest, LinksFillTheFirstRowsAndTheFirstIsCurrent) {
 }
 
 TEST_F(LinksTest, TheGridHasItsHeadings) {
+  OpenDocument("Links.dat", kTwoLinks);
   const QAbstractItemModel& model = *LinksGrid().model();
   EXPECT_EQ(model.headerData(0, Qt::Horizontal).toString(), "Link text");
   EXPECT_EQ(model.headerData(1, Qt::Horizontal).toString(), "Link to");

@@ -127,5 +127,32 @@ TEST_F(SkinsTest, AnOpenDocumentIsNotTouchedByCustomise) {
   EXPECT_EQ(Folder.Read("Guide.dat"), kGuide);
 }
 
+TEST_F(SkinsTest, ClosingCustomiseByItsFrameAppliesTheSettingThatStands) {
+  WriteSettings("1");
+  Start();
+  WritePicture("Skin1.jpg", Qt::red);
+  Customise([](QWidget& dialog) { dialog.close(); });
+  EXPECT_EQ(Shown(Cover()), "red");
+}
+
+TEST_F(SkinsTest, CustomiseReturnsToTheProgramsFolder) {
+  Start();
+  Customise([](QWidget& dialog) {
+    std::filesystem::current_path("/");
+    dialog.close();
+  });
+  EXPECT_EQ(std::filesystem::current_path(), Folder.Path());
+}
+
+TEST_F(SkinsTest, TheWordsOnTheCoverGiveWayToAPicture) {
+  Start();
+  EXPECT_TRUE(Find<QWidget>(Window(), "CoverText").isVisible());
+  WritePicture("Skin1.jpg", Qt::red);
+  CustomiseWith(true);
+  EXPECT_FALSE(Find<QWidget>(Window(), "CoverText").isVisible());
+  CustomiseWith(false);
+  EXPECT_TRUE(Find<QWidget>(Window(), "CoverText").isVisible());
+}
+
 }  // namespace
 }  // namespace tavrel::test

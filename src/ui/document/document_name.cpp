@@ -1,4 +1,4 @@
-#include "ui/document/name_check.h"
+#include "ui/document/document_name.h"
 
 #include "core/shell/messages.h"
 #include "core/text/file_names.h"
