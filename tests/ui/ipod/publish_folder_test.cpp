@@ -158,7 +158,6 @@ TEST_F(PublishFolderTest, ANameOutsidePlainLettersIsAFolderOfThatName) {
 }
 
 TEST_F(PublishFolderTest, ReturnsToTheProgramsFolder) {
-  OpenDocument("Trio.dat", kTrio);
   PlayPublish([](QWidget& dialog) {
     std::filesystem::current_path("/");
     Click(dialog, "Command2");
@@ -167,7 +166,7 @@ TEST_F(PublishFolderTest, ReturnsToTheProgramsFolder) {
 }
 
 TEST_F(PublishFolderTest, AFolderThatIsGoneIsNamedInAMessage) {
-  OpenDocument("Trio.dat", kTrio);
+  Messages.Shown.clear();
   std::filesystem::create_directory(Folder.Path() / "gone");
   PlayPublish([this](QWidget& dialog) {
     std::filesystem::remove(Folder.Path() / "gone");
