@@ -4,6 +4,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QTest>
 
 #include <iostream>
 #include <stdexcept>
@@ -87,8 +88,7 @@ void Tour::WritePages() {
   WriteLink(2, "All stops", "2");
   WritePage(4, "The caf\u00E9", "Last stop", "Sit by the window: the swans come at four.");
   WriteLink(1, "All stops", "2");
-  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), 1);
-  Settle();
+  ShowPage(1);
   TakePicture(*window_, "page");
 }
 
@@ -124,8 +124,7 @@ void Tour::ReadTheSample() {
     Click(dialog, "Command1");
   });
   Choose("FileOpen");
-  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), 8);
-  Settle();
+  ShowPage(8);
   TakePicture(*window_, "sample");
 }
 
@@ -148,6 +147,12 @@ void Tour::LookAtTheOtherDialogs() {
 void Tour::Choose(const QString& menu_item) {
   ChooseMenu(*window_, menu_item);
   ActivateWindow(*window_);
+}
+
+void Tour::ShowPage(int number) {
+  constexpr int kOneTickOfTheLengthBar = 1100;
+  ClickRow(Find<Grid>(*window_, "MSFlexGrid2"), number);
+  QTest::qWait(kOneTickOfTheLengthBar);
 }
 
 void Tour::WritePage(int number, const QString& title, const QString& note, const QString& text) {

@@ -35,6 +35,7 @@ class Tour {
   void LookAtTheOtherDialogs();
 
   void Choose(const QString& menu_item);
+  void ShowPage(int number);
   void WritePage(int number, const QString& title, const QString& note, const QString& text);
   void WriteLink(int row, const QString& text, const QString& target);
   void AnswerMessage(const QString& picture, const QString& button);

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include <algorithm>
+
 #include "ui/controls/file_list.h"
 #include "ui/controls/line_field.h"
 
@@ -14,6 +16,8 @@ void Dialog::PrepareControls() {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
   for (LineField* field : findChildren<LineField*>()) field->SetCodePage(app_.CodePageInUse());
   for (FileList* list : findChildren<FileList*>()) list->SetCodePage(app_.CodePageInUse());
+  // Wrapped labels need more height in larger fonts than the form gives them.
+  if (hasHeightForWidth()) resize(width(), std::max(height(), heightForWidth(width())));
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {
