@@ -95,13 +95,12 @@ std::error_code ReplaceWhole(FileLayer& files, const fs::path& file, std::string
 }
 
 std::error_code WritePlain(FileLayer& files, const fs::path& file, std::string_view bytes) {
-  std::error_code error;
-  const fs::path target = WhereLinkLeads(file, error);
   int handle = -1;
-  if (!error) error = files.CreateOrEmpty(target, handle);
+  std::error_code error = files.CreateOrEmpty(file, handle);
   if (error) return error;
   error = WriteAndClose(files, handle, bytes, false);
-  if (error) files.Remove(target);
+  std::error_code ignored;
+  if (error) files.Remove(WhereLinkLeads(file, ignored));
   return error;
 }
 

@@ -46,12 +46,15 @@ bool TagWalker::Next() {
 }
 
 std::string GetTag(std::string_view text, std::string_view tag, int occurrence) {
+  return std::string(TagContent(text, tag, occurrence));
+}
+
+std::string_view TagContent(std::string_view text, std::string_view tag, int occurrence) {
   const std::size_t opening = FindOpening(text, tag, occurrence);
   if (opening == kNotFound) return {};
   const std::size_t start = opening + tag.size();
   const std::size_t end = FindTag(text, ClosingTag(tag), start);
-  if (end == kNotFound) return {};
-  return std::string(text.substr(start, end - start));
+  return end == kNotFound ? std::string_view() : text.substr(start, end - start);
 }
 
 void SetTag(std::string& text, std::string_view value, std::string_view tag, int occurrence) {

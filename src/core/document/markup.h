@@ -35,6 +35,9 @@ class TagWalker {
 /// Occurrences below 1 mean the first.
 std::string GetTag(std::string_view text, std::string_view tag, int occurrence);
 
+/// As GetTag, without a copy: what it gives lies in `text`.
+std::string_view TagContent(std::string_view text, std::string_view tag, int occurrence);
+
 /// Replaces the content of the occurrence-th element that `tag` opens; leaves the text alone if the element
 /// or its closing tag is missing.
 void SetTag(std::string& text, std::string_view value, std::string_view tag, int occurrence);

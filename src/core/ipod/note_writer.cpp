@@ -21,10 +21,16 @@ void AppendAnchor(std::string& note, std::string_view address, std::string_view 
   note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
 }
 
+/// Whether a target is a page: its number is above 0. Most targets are seen to be one from their first digit.
+bool IsPageTarget(std::string_view target) {
+  const bool plain = !target.empty() && target.front() >= '1' && target.front() <= '9';
+  return plain || Value(target) > 0;
+}
+
 /// Opens an anchor to a link's target: the note of a page, or music.
 void AppendLinkOpening(std::string& note, const Global& global, std::string_view target) {
   note.append("<a href=\"");
-  if (Value(target) > 0) {
+  if (IsPageTarget(target)) {
     note.append("z").append(target).append(".txt");
   } else {
     note.append(GetMusic(global, target));
@@ -97,7 +103,7 @@ std::string GetMusic(const Global& global, std::string_view reference) {
   }};
   std::string query;
   for (const auto& [tag, key] : kFields) {
-    const std::string value = GetTag(global.MusicLink(number), tag, 1);
+    const std::string_view value = TagContent(global.MusicLink(number), tag, 1);
     if (!value.empty()) query.append(key).append(value);
   }
   return query.empty() ? std::string(kNotesMenu) : "ipod:music?" + query.substr(1);
@@ -113,14 +119,14 @@ std::string NoteText(const Global& global, int page, const PublishOptions& optio
   note.reserve(record.size() + record.size() / 4);
   note.append("<title>")
       .append(page == 1 ? "-" : "")
-      .append(GetTag(record, "<title>", 1))
+      .append(TagContent(record, "<title>", 1))
       .append("</title>")
       .append(kLineEnd);
   note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
   if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
 
   AppendMusic(note, global, record);
-  note.append(GetText(global, GetTag(record, "<text>", 1), page)).append(kLineEnd);
+  note.append(GetText(global, TagContent(record, "<text>", 1), page)).append(kLineEnd);
   AppendPageLinks(note, global, record);
   if (options.NotesMenuLink) {
     AppendAnchor(note, kNotesMenu, "Notes menu");

@@ -107,7 +107,7 @@ void PageGrids::RefreshPages() {
 
 void PageGrids::RefreshPage(int page) {
   const std::string& record = app_.State.Page(page);
-  SetPageCells(page, GetTag(record, "<title>", 1), GetTag(record, "<note>", 1));
+  SetPageCells(page, TagContent(record, "<title>", 1), TagContent(record, "<note>", 1));
 }
 
 void PageGrids::SelectPage(int page) {
