@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMimeData>
 #include <QTest>
@@ -100,6 +101,27 @@ TEST(LineFieldTest, TellsByATipWhereNobodyListens) {
   QApplication::clipboard()->setText(u"\u4E2D\u6587"_qs);
   QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
   EXPECT_EQ(QToolTip::text(), "2 characters that an iPod note cannot hold became \"?\".");
+}
+
+void Drop(QWidget& target, const QString& text) {
+  QMimeData mime;
+  mime.setText(text);
+  QDragEnterEvent enter(QPoint(1, 1), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &enter);
+  QDropEvent drop(QPointF(1, 1), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&target, &drop);
+}
+
+TEST(LineFieldTest, DroppedTextIsMadeFit) {
+  LineField field;
+  Drop(field, u"a\n\u4E2D"_qs);
+  EXPECT_EQ(field.Bytes(), "a ?");
+}
+
+TEST(BodyFieldTest, DroppedTextIsMadeFit) {
+  BodyField field;
+  Drop(*field.viewport(), u"a\n\u4E2D"_qs);
+  EXPECT_EQ(field.Bytes(), "a\r\n?");
 }
 
 TEST(TextConversionTest, CountsACharacterBeyondTheBasicPlaneOnce) {
