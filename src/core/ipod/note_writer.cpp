@@ -21,16 +21,10 @@ void AppendAnchor(std::string& note, std::string_view address, std::string_view 
   note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
 }
 
-/// Whether a target is a page: its number is above 0. Most targets are seen to be one from their first digit.
-bool IsPageTarget(std::string_view target) {
-  const bool plain = !target.empty() && target.front() >= '1' && target.front() <= '9';
-  return plain || Value(target) > 0;
-}
-
 /// Opens an anchor to a link's target: the note of a page, or music.
 void AppendLinkOpening(std::string& note, const Global& global, std::string_view target) {
   note.append("<a href=\"");
-  if (IsPageTarget(target)) {
+  if (Value(target) > 0) {
     note.append("z").append(target).append(".txt");
   } else {
     note.append(GetMusic(global, target));

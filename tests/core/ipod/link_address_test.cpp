@@ -65,6 +65,10 @@ TEST(GetText, TakesOnlyNumbersAboveZeroForPages) {
   EXPECT_EQ(Text("<x>", {"Mary"}), "<a href=\"ipod:music?song=Zero\">x</a>");
 }
 
+TEST(GetText, TakesANumberTooSmallToHoldForNoPage) {
+  EXPECT_EQ(Text("<x>", {"1e-400"}), "<a href=\"ipod:music?song=Zero\">x</a>");
+}
+
 TEST(GetText, ChangesEveryBracketOnceOnePairIsThere) {
   EXPECT_EQ(Text("<a <b>> c>", {"001", "002"}),
             "<a href=\"z001.txt\">a <a href=\"z002.txt\">b</a></a> c</a>");
