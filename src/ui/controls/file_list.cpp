@@ -10,7 +10,7 @@ FileList::FileList(QWidget* parent) : QListWidget(parent), code_page_(&CodePage:
 void FileList::SetPath(const std::filesystem::path& path) {
   path_ = path;
   clear();
-  for (const FolderFile& file : ListFiles(path, extension_, *code_page_)) {
+  for (const FolderFile& file : ListFiles(path, "", *code_page_)) {
     const QString name = ToText(file.Name);
     const bool hidden = name.startsWith('.');
     if (!hidden) addItem(name);

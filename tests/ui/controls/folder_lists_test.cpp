@@ -79,9 +79,6 @@ TEST_F(FolderListsTest, FilesAreListedInAlphabeticalOrderWithoutHiddenOnes) {
   FileList list;
   list.SetPath(folder_.Path());
   EXPECT_EQ(Rows(list), (QStringList{"One.txt", "three.dat", "two.TXT"}));
-  list.SetExtension(".txt");
-  list.SetPath(folder_.Path());
-  EXPECT_EQ(Rows(list), (QStringList{"One.txt", "two.TXT"}));
 }
 
 TEST_F(FolderListsTest, TheDriveOfAFolderIsTheOneClosestAboveIt) {
