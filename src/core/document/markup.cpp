@@ -39,9 +39,11 @@ bool TagWalker::Next() {
   if (opening == kNotFound) return false;
 
   // The closing tag found for one element serves all that open before it, which keeps the walk linear.
-  const std::size_t start = opening + tag_.size();
-  if (closing_ != kNotFound && closing_ < start) closing_ = FindTag(text_, closing_tag_, start);
-  if (closing_ != kNotFound) content_ = text_.substr(start, closing_ - start);
+  content_start_ = opening + tag_.size();
+  if (closing_ != kNotFound && closing_ < content_start_) {
+    closing_ = FindTag(text_, closing_tag_, content_start_);
+  }
+  if (closing_ != kNotFound) content_ = text_.substr(content_start_, closing_ - content_start_);
   return true;
 }
 

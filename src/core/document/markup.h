@@ -18,6 +18,9 @@ class TagWalker {
   /// The content of the element reached; empty if it has none or no closing tag.
   std::string_view Content() const { return content_; }
 
+  /// Where the content begins in the text.
+  std::size_t ContentStart() const { return content_start_; }
+
   /// Next() and Content() in one: empty when there is no further element.
   std::string_view NextContent() { return Next() ? Content() : std::string_view(); }
 
@@ -26,6 +29,7 @@ class TagWalker {
   std::string_view tag_;
   std::string closing_tag_;
   std::string_view content_;
+  std::size_t content_start_ = 0;
   std::size_t search_from_ = 0;
   std::size_t closing_ = 0;
 };

@@ -8,6 +8,8 @@
 #include <locale>
 #include <sstream>
 
+#include "core/text/file_names.h"
+
 namespace tavrel {
 namespace {
 
@@ -79,6 +81,14 @@ std::int32_t WholeValue(std::string_view text) {
   const double rounded = std::nearbyint(Value(text));
   return static_cast<std::int32_t>(
       std::clamp(rounded, static_cast<double>(Limits::min()), static_cast<double>(Limits::max())));
+}
+
+std::int32_t DecimalNumber(std::string_view text) {
+  const std::string_view digits = TrimBlanks(text);
+  if (!std::all_of(digits.begin(), digits.end(), IsDigit)) return 0;
+  std::int32_t number = 0;
+  const auto parsed = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  return parsed.ec == std::errc::result_out_of_range ? std::numeric_limits<std::int32_t>::max() : number;
 }
 
 std::int16_t LeadingDigits(std::string_view text) {

@@ -20,6 +20,10 @@ double Value(std::string_view text);
 /// the nearest bound.
 std::int32_t WholeValue(std::string_view text);
 
+/// The number that a text consists of: digits, with blanks around them allowed. Anything else counts as 0;
+/// numbers beyond 32 bits give the largest one.
+std::int32_t DecimalNumber(std::string_view text);
+
 /// The leading digits of a text as a number, 0 without any. Only the low 16 bits are kept, as a link target
 /// has room for no more.
 std::int16_t LeadingDigits(std::string_view text);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace tavrel {
+
+/// What identifies a piece of music on the iPod, in the order in which a record holds it: song, album,
+/// composer, artist, genre, playlist and notes.
+inline constexpr std::size_t kMusicFields = 7;
+using MusicFields = std::array<std::string, kMusicFields>;
+
+/// The opening tag of each field.
+inline constexpr std::array<std::string_view, kMusicFields> kMusicTags = {
+    "<song>", "<album>", "<composer>", "<artist>", "<genre>", "<playlist>", "<notes>"};
+
+/// Splits a music link record; a missing element gives an empty field.
+MusicFields ReadMusicLink(std::string_view record);
+
+/// Joins fields, as they stand, into a music link record. Empty fields are left out, so all of them empty
+/// give the empty record.
+std::string BuildMusicLink(const MusicFields& fields);
+
+}  // namespace tavrel
