@@ -32,6 +32,10 @@ bool IsPage(int number) {
   return 1 <= number && number <= kLastPage;
 }
 
+bool IsMovablePage(int number) {
+  return IsPage(number) && number < kLastPage;
+}
+
 bool CanCopyPages(int start, int end, int to) {
   return IsPage(start) && IsPage(end) && IsPage(to) && !RangeBetween(start, end).Contains(to);
 }
@@ -41,11 +45,11 @@ bool CanClearPages(int start, int end) {
 }
 
 bool CanDeletePages(int start, int end) {
-  return IsPage(start) && start <= kLastMovablePage && IsPage(end);
+  return IsMovablePage(start) && IsPage(end);
 }
 
 bool CanInsertPages(int at, int count) {
-  return IsPage(at) && at <= kLastMovablePage && 1 <= count && count <= kMostInsertedPages;
+  return IsMovablePage(at) && 1 <= count && count <= kMostInsertedPages;
 }
 
 void CopyPages(Global& global, PageRange pages, int to) {

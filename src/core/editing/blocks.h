@@ -6,8 +6,7 @@
 /// Commands on a range of pages. Ranges are given as typed, in either order, 1 to 999.
 namespace tavrel {
 
-inline constexpr int kLastMovablePage = kLastPage - 1;  ///< there is no page behind 999 to move up or away to
-inline constexpr int kMostInsertedPages = 50;           ///< blank pages that one command inserts
+inline constexpr int kMostInsertedPages = 50;  ///< blank pages that one command inserts
 
 struct PageRange {
   int First = 1;
@@ -21,6 +20,9 @@ struct PageRange {
 PageRange RangeBetween(int start, int end);
 
 bool IsPage(int number);
+
+/// Whether blocks can begin at a page: it is not page 999.
+bool IsMovablePage(int number);
 
 /// Whether pages can be copied so: all numbers are pages, and the target is not one of the copied ones.
 bool CanCopyPages(int start, int end, int to);

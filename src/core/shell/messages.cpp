@@ -50,6 +50,10 @@ Message ProjectSaved() {
   return {"Project saved...    ", Buttons::Ok, Icon::Information, std::string(kProgramName)};
 }
 
+Message NotFound() {
+  return {"Not found!    ", Buttons::Ok, Icon::Exclamation, "Find"};
+}
+
 Message PublishFinished() {
   return {"Finished...    ", Buttons::Ok, Icon::Information, "Publish"};
 }

@@ -30,6 +30,7 @@ Message NothingToClose();
 Message NothingToSave();
 Message NothingToPublish();
 Message ProjectSaved();
+Message NotFound();
 Message PublishFinished();
 Message DriveNotAvailable(std::string_view drive);
 

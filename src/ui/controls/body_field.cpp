@@ -5,6 +5,7 @@
 #include <QMimeData>
 #include <QTextBlock>
 
+#include <algorithm>
 #include <memory>
 
 #include "ui/controls/text_conversion.h"
@@ -74,12 +75,38 @@ int BodyField::Length() const {
   return document()->characterCount() - 1 + document()->blockCount() - 1;
 }
 
+void BodyField::Select(std::size_t position, std::size_t length) {
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(CursorPosition(position));
+  cursor.setPosition(CursorPosition(position + length), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
+int BodyField::CursorPosition(std::size_t byte) const {
+  const int last = document()->characterCount() - 1;
+  const int bytes = static_cast<int>(std::min(byte, static_cast<std::size_t>(Length())));
+  int line_breaks = 0;
+  for (QTextBlock block = document()->begin().next(); block.isValid(); block = block.next()) {
+    // A line begins behind the line feeds that the cursor does not count.
+    if (block.position() + line_breaks + 1 > bytes) break;
+    ++line_breaks;
+  }
+  return std::min(bytes - line_breaks, last);
+}
+
+QString BodyField::SelectedText() const {
+  QString text = textCursor().selectedText();
+  text.replace(QChar::ParagraphSeparator, kLineFeed);
+  return WithoutPictures(text);
+}
+
 void BodyField::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::InsertLineSeparator)) {
     textCursor().insertBlock();
     ensureCursorVisible();
   } else if (IsTypedText(event->text()) && !IsFit(event->text(), *code_page_, kLineFeed)) {
-    InsertFitted(event->text());
+    ReplaceSelection(event->text());
   } else {
     QPlainTextEdit::keyPressEvent(event);
   }
@@ -98,7 +125,7 @@ void BodyField::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 void BodyField::insertFromMimeData(const QMimeData* source) {
-  if (source->hasText()) InsertFitted(source->text());
+  if (source->hasText()) ReplaceSelection(source->text());
 }
 
 bool BodyField::canInsertFromMimeData(const QMimeData* source) const {
@@ -106,14 +133,12 @@ bool BodyField::canInsertFromMimeData(const QMimeData* source) const {
 }
 
 QMimeData* BodyField::createMimeDataFromSelection() const {
-  QString text = textCursor().selectedText();
-  text.replace(QChar::ParagraphSeparator, kLineFeed);
   auto mime = std::make_unique<QMimeData>();
-  mime->setText(WithoutPictures(text));
+  mime->setText(SelectedText());
   return mime.release();
 }
 
-void BodyField::InsertFitted(const QString& text) {
+void BodyField::ReplaceSelection(const QString& text) {
   const FittedText fitted = Fit(text, *code_page_, kLineFeed);
   if (HasEndlessWord(fitted.Text)) setWordWrapMode(QTextOption::WrapAnywhere);
   textCursor().insertText(fitted.Text);

@@ -26,6 +26,15 @@ class BodyField : public QPlainTextEdit {
   /// The number of bytes, without building them.
   int Length() const;
 
+  /// Selects `length` bytes from the byte `position` on, counted from 0, and brings them into view.
+  void Select(std::size_t position, std::size_t length);
+
+  /// The selected text as other programs take it, with single line feeds.
+  QString SelectedText() const;
+
+  /// Puts a text, made fit for the field, in place of the selection or in at the caret.
+  void ReplaceSelection(const QString& text);
+
  signals:
   /// Characters that the code page does not hold became "?".
   void CharactersReplaced(int count);
@@ -38,7 +47,7 @@ class BodyField : public QPlainTextEdit {
   QMimeData* createMimeDataFromSelection() const override;
 
  private:
-  void InsertFitted(const QString& text);
+  int CursorPosition(std::size_t byte) const;
 
   const CodePage* code_page_;
 };

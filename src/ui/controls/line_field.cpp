@@ -14,6 +14,7 @@
 #include <limits>
 #include <memory>
 
+#include "core/text/numbers.h"
 #include "ui/controls/focus.h"
 #include "ui/controls/text_conversion.h"
 
@@ -36,6 +37,10 @@ std::string LineField::Bytes() const {
 void LineField::SetBytes(std::string_view bytes) {
   setText(ToText(bytes, *code_page_));
   setCursorPosition(0);
+}
+
+int LineField::Number() const {
+  return DecimalNumber(Bytes());
 }
 
 void LineField::keyPressEvent(QKeyEvent* event) {

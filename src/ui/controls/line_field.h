@@ -23,6 +23,9 @@ class LineField : public QLineEdit {
   std::string Bytes() const;
   void SetBytes(std::string_view bytes);
 
+  /// The number that the text consists of; anything else counts as 0.
+  int Number() const;
+
  signals:
   /// The focus has gone to another control (not to a menu or another window).
   void LostFocus();

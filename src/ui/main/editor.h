@@ -24,6 +24,10 @@ class Editor {
   /// Rewrites titles and notes of all rows of the pages grid.
   virtual void RefreshGrid2() = 0;
 
+  /// Renews the music links in the lists of targets, and the page's own from its record. The lists' pages and
+  /// what was typed as a link's target stay.
+  virtual void RefreshMusicLinks() = 0;
+
   /// The two states of the window: a document is open, or the cover hides the editor.
   virtual void ShowControls() = 0;
   virtual void HideControls() = 0;

@@ -1,10 +1,6 @@
 #pragma once
 
-#include <QMap>
 #include <QObject>
-#include <QStringList>
-
-class QLabel;
 
 namespace Ui {
 class Main;
@@ -23,11 +19,8 @@ class FieldNotices : public QObject {
 
  private:
   void TellReplaced(int count);
-  void CheckTags(const QObject* field, const QString& text, const QStringList& closing_tags);
 
   Ui::Main& ui_;
-  QLabel* tag_notice_;
-  QMap<const QObject*, QString> found_tags_;
 };
 
 }  // namespace tavrel

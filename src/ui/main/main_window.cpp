@@ -10,12 +10,10 @@
 #include "ui/controls/program_control.h"
 #include "ui/controls/redraw.h"
 #include "ui/controls/text_conversion.h"
-#include "ui/document/file_menu.h"
-#include "ui/ipod/tools_commands.h"
+#include "ui/main/commands.h"
 #include "ui/main/field_notices.h"
 #include "ui/main/page_editor.h"
 #include "ui/main/page_grids.h"
-#include "ui/shell/help_menu.h"
 #include "ui/shell/skin_pictures.h"
 #include "ui_main_window.h"
 
@@ -35,11 +33,8 @@ Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new
   page_ = std::make_unique<PageEditor>(app_, *ui_);
   skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->CoverText, *ui_->Background);
   notices_ = std::make_unique<FieldNotices>(*ui_);
-  file_menu_ = std::make_unique<FileMenu>(app_, *this, this);
-  tools_ = std::make_unique<ToolsCommands>(app_, *this, this);
-  help_menu_ = std::make_unique<HelpMenu>(app_, *skins_, this);
+  commands_ = std::make_unique<Commands>(app_, *ui_, *this, *skins_, this);
   ConnectFields();
-  ConnectMenus();
   NameSeparators();
 
   HideControls();
@@ -61,21 +56,6 @@ void Main::ConnectFields() {
   On(control, target, &LineField::returnPressed, this, [this] { Combo1_KeyPress(); });
   On(control, target, &LineField::LostFocus, this, [this] { Combo1_LostFocus(); });
   On(control, timer1_, &QTimer::timeout, this, [this] { Timer1_Timer(); });
-}
-
-void Main::ConnectMenus() {
-  const auto run = [this](const QAction* item, auto& menu, auto handler) {
-    On(app_.Control, item, &QAction::triggered, this, [&menu, handler] { (menu.*handler)(); });
-  };
-  run(ui_->FileNew, *file_menu_, &FileMenu::FileNew_Click);
-  run(ui_->FileOpen, *file_menu_, &FileMenu::FileOpen_Click);
-  run(ui_->FileSave, *file_menu_, &FileMenu::FileSave_Click);
-  run(ui_->FileSaveAs, *file_menu_, &FileMenu::FileSaveAs_Click);
-  run(ui_->FileClose, *file_menu_, &FileMenu::FileClose_Click);
-  run(ui_->FileDelete, *file_menu_, &FileMenu::FileDelete_Click);
-  run(ui_->FileExit, *file_menu_, &FileMenu::FileExit_Click);
-  run(ui_->ToolsPublish, *tools_, &ToolsCommands::ToolsPublish_Click);
-  run(ui_->HelpCustomise, *help_menu_, &HelpMenu::HelpCustomise_Click);
 }
 
 void Main::NameSeparators() {
@@ -159,6 +139,11 @@ void Main::UpdateGrid2() {
 
 void Main::RefreshGrid2() {
   grids_->RefreshPages();
+}
+
+void Main::RefreshMusicLinks() {
+  page_->RefreshMusicTargets();
+  page_->ShowMusicLink(ReadPage(app_.State.Page(app_.State.CurrentPage)));
 }
 
 void Main::ShowControls() {

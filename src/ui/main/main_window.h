@@ -15,13 +15,11 @@ class Main;
 
 namespace tavrel {
 
+class Commands;
 class FieldNotices;
-class FileMenu;
-class HelpMenu;
 class PageEditor;
 class PageGrids;
 class SkinPictures;
-class ToolsCommands;
 
 /// The program's editor window.
 class Main : public QMainWindow, public Editor {
@@ -39,6 +37,7 @@ class Main : public QMainWindow, public Editor {
   void UpdateGrid1() override;
   void UpdateGrid2() override;
   void RefreshGrid2() override;
+  void RefreshMusicLinks() override;
   void ShowControls() override;
   void HideControls() override;
   void ShowDocumentName() override;
@@ -73,7 +72,6 @@ class Main : public QMainWindow, public Editor {
 
  private:
   void ConnectFields();
-  void ConnectMenus();
   void NameSeparators();
 
   App& app_;
@@ -82,9 +80,7 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<PageEditor> page_;
   std::unique_ptr<SkinPictures> skins_;
   std::unique_ptr<FieldNotices> notices_;
-  std::unique_ptr<FileMenu> file_menu_;
-  std::unique_ptr<ToolsCommands> tools_;
-  std::unique_ptr<HelpMenu> help_menu_;
+  std::unique_ptr<Commands> commands_;
   QTimer* timer1_;
 };
 

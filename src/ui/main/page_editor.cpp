@@ -37,11 +37,20 @@ void PageEditor::FillTargets() {
   for (int page = 1; page <= kLastPage; ++page) {
     if (!app_.State.Page(page).empty()) pages << QString::fromStdString(FormatPage(page));
   }
+  ui_.Combo1->SetItems(pages);
+  RefreshMusicTargets();
+}
+
+void PageEditor::RefreshMusicTargets() {
+  QStringList targets;
+  for (const QString& target : ui_.Combo1->Items()) {
+    if (!IsMusicTarget(target.toStdString())) targets << target;
+  }
   QStringList music_links;
   for (int link = 1; link <= kLastMusicLink; ++link) {
     if (!app_.State.MusicLink(link).empty()) music_links << QString::fromStdString(MusicLinkName(link));
   }
-  ui_.Combo1->SetItems(pages + music_links);
+  ui_.Combo1->SetItems(targets + music_links);
   ui_.Combo2->SetItems(music_links);
 }
 

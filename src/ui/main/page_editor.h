@@ -22,6 +22,8 @@ class PageEditor {
 
   /// Refills the lists of targets: the existing pages and music links, and the music links alone.
   void FillTargets();
+  /// Renews the music links in both lists; the pages in the first stay as they were listed.
+  void RefreshMusicTargets();
 
   /// What the fields hold, links apart.
   PageFields TypedFields() const;

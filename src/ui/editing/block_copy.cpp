@@ -1,0 +1,35 @@
+#include "ui/editing/block_copy.h"
+
+#include "core/editing/blocks.h"
+#include "ui/controls/hourglass.h"
+#include "ui/controls/program_control.h"
+#include "ui_block_copy.h"
+
+namespace tavrel {
+
+BlockCopy::BlockCopy(App& app, QWidget* parent)
+    : Dialog(app, parent), ui_(std::make_unique<Ui::BlockCopy>()) {
+  ui_->setupUi(this);
+  PrepareControls();
+  ui_->Command2->setDefault(true);
+  On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
+  On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
+}
+
+BlockCopy::~BlockCopy() = default;
+
+void BlockCopy::Command1_Click() {
+  reject();
+}
+
+void BlockCopy::Command2_Click() {
+  const int start = ui_->Text1->Number();
+  const int end = ui_->Text2->Number();
+  const int to = ui_->Text3->Number();
+  if (!CanCopyPages(start, end, to)) return;
+  const Hourglass hourglass;
+  CopyPages(app_.State, RangeBetween(start, end), to);
+  accept();
+}
+
+}  // namespace tavrel

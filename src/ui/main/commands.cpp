@@ -1,0 +1,94 @@
+#include "ui/main/commands.h"
+
+#include <QActionGroup>
+
+#include "ui/controls/program_control.h"
+#include "ui_main_window.h"
+
+namespace tavrel {
+
+Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, QWidget* window)
+    : app_(app),
+      ui_(ui),
+      file_menu_(app, editor, window),
+      tools_(app, editor, window),
+      pages_(app, editor),
+      links_(app, editor, *ui.MSFlexGrid1),
+      text_(*ui.Text1),
+      search_(app, editor, *ui.Text1, window),
+      blocks_(app, editor, window),
+      music_(app, editor, window),
+      help_menu_(app, skins, window) {
+  ConnectFileMenu();
+  ConnectPageMenu();
+  ConnectLinkMenu();
+  ConnectTextMenu();
+  ConnectFontMenu();
+  ConnectBlocksAndMusic();
+  Connect(ui_.HelpCustomise, help_menu_, &HelpMenu::HelpCustomise_Click);
+}
+
+void Commands::ConnectFileMenu() {
+  Connect(ui_.FileNew, file_menu_, &FileMenu::FileNew_Click);
+  Connect(ui_.FileOpen, file_menu_, &FileMenu::FileOpen_Click);
+  Connect(ui_.FileSave, file_menu_, &FileMenu::FileSave_Click);
+  Connect(ui_.FileSaveAs, file_menu_, &FileMenu::FileSaveAs_Click);
+  Connect(ui_.FileClose, file_menu_, &FileMenu::FileClose_Click);
+  Connect(ui_.FileDelete, file_menu_, &FileMenu::FileDelete_Click);
+  Connect(ui_.FileExit, file_menu_, &FileMenu::FileExit_Click);
+  Connect(ui_.ToolsPublish, tools_, &ToolsCommands::ToolsPublish_Click);
+}
+
+void Commands::ConnectPageMenu() {
+  Connect(ui_.EditDelete, pages_, &PageCommands::EditDelete_Click);
+  Connect(ui_.EditCopyPage, pages_, &PageCommands::EditCopyPage_Click);
+  Connect(ui_.EditPastePage, pages_, &PageCommands::EditPastePage_Click);
+  Connect(ui_.EditPageUp, pages_, &PageCommands::EditPageUp_Click);
+  Connect(ui_.EditPageDown, pages_, &PageCommands::EditPageDown_Click);
+  Connect(ui_.EditInsert, pages_, &PageCommands::EditInsert_Click);
+  Connect(ui_.EditPageDeleteIt, pages_, &PageCommands::EditPageDeleteIt_Click);
+  Connect(ui_.EditClear, pages_, &PageCommands::EditClear_Click);
+}
+
+void Commands::ConnectLinkMenu() {
+  Connect(ui_.EditLinkUp, links_, &LinkCommands::EditLinkUp_Click);
+  Connect(ui_.EditLinkDown, links_, &LinkCommands::EditLinkDown_Click);
+  Connect(ui_.EditLinkDelete, links_, &LinkCommands::EditLinkDelete_Click);
+}
+
+void Commands::ConnectTextMenu() {
+  Connect(ui_.EditCut, text_, &TextCommands::EditCut_Click);
+  Connect(ui_.EditCopy, text_, &TextCommands::EditCopy_Click);
+  Connect(ui_.EditPaste, text_, &TextCommands::EditPaste_Click);
+  Connect(ui_.EditSearch, search_, &SearchCommands::EditSearch_Click);
+  Connect(ui_.EditFindNext, search_, &SearchCommands::EditFindNext_Click);
+  Connect(ui_.EditReplace, search_, &SearchCommands::EditReplace_Click);
+  Connect(ui_.EditDeleteText, text_, &TextCommands::EditDeleteText_Click);
+  // Every field sees to these keys itself; the menu only shows them.
+  for (QAction* item : {ui_.EditCut, ui_.EditCopy, ui_.EditPaste})
+    item->setShortcutContext(Qt::WidgetShortcut);
+}
+
+void Commands::ConnectFontMenu() {
+  auto* sizes = new QActionGroup(this);
+  for (QAction* item : {ui_.EditFontSmall, ui_.EditFontNormal, ui_.EditFontLarge}) sizes->addAction(item);
+  Connect(ui_.EditFontSmall, text_, &TextCommands::EditFontSmall_Click);
+  Connect(ui_.EditFontNormal, text_, &TextCommands::EditFontNormal_Click);
+  Connect(ui_.EditFontLarge, text_, &TextCommands::EditFontLarge_Click);
+}
+
+void Commands::ConnectBlocksAndMusic() {
+  Connect(ui_.EditBlockCopy, blocks_, &BlockCommands::EditBlockCopy_Click);
+  Connect(ui_.EditBlockClear, blocks_, &BlockCommands::EditBlockClear_Click);
+  Connect(ui_.EditBlockDelete, blocks_, &BlockCommands::EditBlockDelete_Click);
+  Connect(ui_.EditBlockInsert, blocks_, &BlockCommands::EditBlockInsert_Click);
+  Connect(ui_.EditMusic, music_, &MusicCommands::EditMusic_Click);
+  On(app_.Control, ui_.Command4, &QAbstractButton::clicked, this, [this] { music_.Command4_Click(); });
+}
+
+template <typename Group>
+void Commands::Connect(const QAction* item, Group& group, void (Group::*handler)()) {
+  On(app_.Control, item, &QAction::triggered, this, [&group, handler] { (group.*handler)(); });
+}
+
+}  // namespace tavrel
