@@ -113,6 +113,9 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
   for (std::size_t i = 1; i < menus.size(); ++i) {
     QTest::mouseClick(menus[i - 1], Qt::LeftButton, {},
                       menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());
+    // A sub-menu opens a moment later.
+    if (!QTest::qWaitFor([&] { return menus[i]->isVisible(); }, 1000))
+      throw std::runtime_error("the menu of " + name.toStdString() + " does not open");
   }
   QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&action).center());
   for (auto menu = menus.rbegin(); menu != menus.rend(); ++menu) (*menu)->close();

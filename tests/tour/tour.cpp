@@ -36,6 +36,10 @@ bool Tour::Play() {
   StartProgram();
   MakeProject();
   WritePages();
+  AddMusic();
+  InsertAPage();
+  FindAndReplace();
+  MoveBlocks();
   SaveProject();
   PublishProject();
   SaveUnderAnotherName();

@@ -15,7 +15,7 @@
 
 namespace tavrel::test {
 
-/// A whole job in the real windows: a project is made, written, saved and published.
+/// A whole job in the real windows: a project is made, written, changed, saved and published.
 class Tour {
  public:
   /// Pictures and the tour's own program folder go into `output`, which is emptied first.
@@ -28,6 +28,10 @@ class Tour {
   void StartProgram();
   void MakeProject();
   void WritePages();
+  void AddMusic();
+  void InsertAPage();
+  void FindAndReplace();
+  void MoveBlocks();
   void SaveProject();
   void PublishProject();
   void SaveUnderAnotherName();
@@ -38,6 +42,8 @@ class Tour {
   void ShowPage(int number);
   void WritePage(int number, const QString& title, const QString& note, const QString& text);
   void WriteLink(int row, const QString& text, const QString& target);
+  void FillIn(const QString& dialog, const QString& menu_item, const QStringList& numbers,
+              const QString& picture);
   void AnswerMessage(const QString& picture, const QString& button);
   void TakePicture(QWidget& window, const QString& name);
   void PrintNotes() const;
