@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "ui/controls/dialog.h"
+#include "ui/editing/block_question.h"
 
 namespace Ui {
 class BlockDelete;
@@ -10,26 +10,20 @@ class BlockDelete;
 
 namespace tavrel {
 
-/// Asks which pages to delete. Bad numbers keep it open. The result lies in a check box that nobody sees,
-/// ticked if nothing is to be deleted.
-class BlockDelete : public Dialog {
+/// Asks which pages to delete.
+class BlockDelete : public BlockQuestion {
   Q_OBJECT
 
  public:
   BlockDelete(App& app, QWidget* parent);
   ~BlockDelete() override;
 
-  /// Offers pages 1 and 2 and waits.
-  void Ask();
-
-  bool IsCancelled() const;
   /// The numbers as typed.
-  int Start() const;
-  int End() const;
+  int Start() const { return Number1(); }
+  int End() const { return Number2(); }
 
- public slots:
-  void Command1_Click();
-  void Command2_Click();
+ protected:
+  bool CanBeDone() const override;
 
  private:
   std::unique_ptr<Ui::BlockDelete> ui_;

@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "ui/controls/dialog.h"
+#include "ui/editing/block_question.h"
 
 namespace Ui {
 class BlockInsert;
@@ -10,26 +10,20 @@ class BlockInsert;
 
 namespace tavrel {
 
-/// Asks how many blank pages to insert, and where. Bad numbers keep it open. The result lies in a check box
-/// that nobody sees, ticked if nothing is to be inserted.
-class BlockInsert : public Dialog {
+/// Asks how many blank pages to insert, and where.
+class BlockInsert : public BlockQuestion {
   Q_OBJECT
 
  public:
   BlockInsert(App& app, QWidget* parent);
   ~BlockInsert() override;
 
-  /// Offers two pages in front of page 1 and waits.
-  void Ask();
-
-  bool IsCancelled() const;
   /// The numbers as typed.
-  int At() const;
-  int Count() const;
+  int At() const { return Number1(); }
+  int Count() const { return Number2(); }
 
- public slots:
-  void Command1_Click();
-  void Command2_Click();
+ protected:
+  bool CanBeDone() const override;
 
  private:
   std::unique_ptr<Ui::BlockInsert> ui_;
