@@ -45,6 +45,21 @@ class UnixFiles final : public FileLayer {
     return Result(handle);
   }
 
+  std::error_code Open(const fs::path& file, int& handle) override {
+    handle = ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
+    return Result(handle);
+  }
+
+  std::error_code Read(int handle, char* buffer, std::size_t size, std::size_t& read) override {
+    ssize_t count = -1;
+    do {
+      count = ::read(handle, buffer, size);
+    } while (count < 0 && errno == EINTR);
+    if (count < 0) return LastError();
+    read = static_cast<std::size_t>(count);
+    return {};
+  }
+
   std::error_code Write(int handle, std::string_view bytes, std::size_t& written) override {
     ssize_t count = -1;
     do {
@@ -71,6 +86,14 @@ class UnixFiles final : public FileLayer {
     return error;
   }
 
+  std::error_code FlushVolume(const fs::path& folder) override {
+    const int handle = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (handle < 0) return LastError();
+    const std::error_code error = Result(::syncfs(handle));
+    ::close(handle);
+    return error;
+  }
+
   std::error_code Remove(const fs::path& file) override { return Result(::unlink(file.c_str())); }
 };
 
@@ -86,6 +109,10 @@ class UnixPlatform final : public Platform {
     return !error;
   }
 
+  bool IsSystemVolume(const Volume& volume) const override { return volume.Root == "/"; }
+
+  bool IsHidden(const fs::path& file) const override { return file.filename().native().starts_with('.'); }
+
   void WriteWholeFile(const fs::path& file, std::string_view bytes) override {
     tavrel::WriteWholeFile(SystemFiles(), file, bytes);
   }
@@ -93,6 +120,12 @@ class UnixPlatform final : public Platform {
   void WritePlainFile(const fs::path& file, std::string_view bytes) override {
     tavrel::WritePlainFile(SystemFiles(), file, bytes);
   }
+
+  void CopyPlainFile(const fs::path& from, const fs::path& to) override {
+    tavrel::CopyPlainFile(SystemFiles(), from, to);
+  }
+
+  void FlushVolumeOf(const fs::path& folder) override { tavrel::FlushVolumeOf(SystemFiles(), folder); }
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <random>
 #include <string>
+#include <utility>
 
 #include "core/text/run_time_error.h"
 
@@ -94,6 +95,40 @@ std::error_code ReplaceWhole(FileLayer& files, const fs::path& file, std::string
   return {};
 }
 
+/// An open file that is closed whatever happens.
+class OpenFile {
+ public:
+  explicit OpenFile(FileLayer& files) : files_(files) {}
+  ~OpenFile() { Close(); }
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+
+  int& Handle() { return handle_; }
+  std::error_code Close() {
+    const int handle = std::exchange(handle_, -1);
+    return handle < 0 ? std::error_code() : files_.Close(handle);
+  }
+
+ private:
+  FileLayer& files_;
+  int handle_ = -1;
+};
+
+void ThrowIf(const std::error_code& error, const fs::path& file, const char* attempt) {
+  if (error) throw FileError(file, attempt, error);
+}
+
+void CopyParts(FileLayer& files, const fs::path& from, int source, const fs::path& to, int target) {
+  constexpr std::size_t kPartSize = 256 * 1024;
+  std::string part(kPartSize, '\0');
+  while (true) {
+    std::size_t read = 0;
+    ThrowIf(files.Read(source, part.data(), part.size(), read), from, "could not be read");
+    if (read == 0) return;
+    ThrowIf(WriteAll(files, target, std::string_view(part).substr(0, read)), to, "could not be written");
+  }
+}
+
 std::error_code WritePlain(FileLayer& files, const fs::path& file, std::string_view bytes) {
   int handle = -1;
   std::error_code error = files.CreateOrEmpty(file, handle);
@@ -116,6 +151,27 @@ void WritePlainFile(FileLayer& files, const fs::path& file, std::string_view byt
   if (const std::error_code error = WritePlain(files, file, bytes)) {
     throw FileError(file, "could not be written", error);
   }
+}
+
+void CopyPlainFile(FileLayer& files, const fs::path& from, const fs::path& to) {
+  std::error_code ignored;
+  if (fs::equivalent(from, to, ignored)) return;
+  OpenFile source(files);
+  OpenFile target(files);
+  ThrowIf(files.Open(from, source.Handle()), from, "could not be read");
+  ThrowIf(files.CreateOrEmpty(to, target.Handle()), to, "could not be written");
+  try {
+    CopyParts(files, from, source.Handle(), to, target.Handle());
+    ThrowIf(target.Close(), to, "could not be written");
+  } catch (const FileError&) {
+    target.Close();
+    files.Remove(WhereLinkLeads(to, ignored));
+    throw;
+  }
+}
+
+void FlushVolumeOf(FileLayer& files, const fs::path& folder) {
+  ThrowIf(files.FlushVolume(folder), folder, "could not be brought to the disk");
 }
 
 }  // namespace tavrel

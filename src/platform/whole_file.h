@@ -15,4 +15,10 @@ void WriteWholeFile(FileLayer& files, const std::filesystem::path& file, std::st
 /// FileError.
 void WritePlainFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);
 
+/// Copies a file as WritePlainFile writes one. Throws FileError.
+void CopyPlainFile(FileLayer& files, const std::filesystem::path& from, const std::filesystem::path& to);
+
+/// Waits until all that was written to a folder's volume is on the disk. Throws FileError.
+void FlushVolumeOf(FileLayer& files, const std::filesystem::path& folder);
+
 }  // namespace tavrel

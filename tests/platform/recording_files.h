@@ -24,6 +24,14 @@ class RecordingFiles final : public FileLayer {
     Calls.emplace_back("CreateOrEmpty");
     return SystemFiles().CreateOrEmpty(file, handle);
   }
+  std::error_code Open(const std::filesystem::path& file, int& handle) override {
+    Calls.emplace_back("Open");
+    return SystemFiles().Open(file, handle);
+  }
+  std::error_code Read(int handle, char* buffer, std::size_t size, std::size_t& read) override {
+    Calls.emplace_back("Read");
+    return SystemFiles().Read(handle, buffer, size, read);
+  }
   std::error_code Write(int handle, std::string_view bytes, std::size_t& written) override {
     Calls.emplace_back("Write");
     return SystemFiles().Write(handle, bytes, written);
@@ -44,6 +52,10 @@ class RecordingFiles final : public FileLayer {
     Calls.emplace_back("FlushFolder");
     FlushedFolder = folder;
     return SystemFiles().FlushFolder(folder);
+  }
+  std::error_code FlushVolume(const std::filesystem::path& folder) override {
+    Calls.emplace_back("FlushVolume");
+    return SystemFiles().FlushVolume(folder);
   }
   std::error_code Remove(const std::filesystem::path& file) override {
     Calls.emplace_back("Remove");

@@ -18,6 +18,14 @@ std::error_code FailingFiles::CreateOrEmpty(const fs::path& file, int& handle) {
   return Fails(Operation::CreateOrEmpty) ? error_ : SystemFiles().CreateOrEmpty(file, handle);
 }
 
+std::error_code FailingFiles::Open(const fs::path& file, int& handle) {
+  return Fails(Operation::Open) ? error_ : SystemFiles().Open(file, handle);
+}
+
+std::error_code FailingFiles::Read(int handle, char* buffer, std::size_t size, std::size_t& read) {
+  return Fails(Operation::Read) ? error_ : SystemFiles().Read(handle, buffer, size, read);
+}
+
 std::error_code FailingFiles::Write(int handle, std::string_view bytes, std::size_t& written) {
   return Fails(Operation::Write) ? error_
                                  : SystemFiles().Write(handle, bytes.substr(0, most_per_write_), written);
@@ -38,6 +46,10 @@ std::error_code FailingFiles::Replace(const fs::path& from, const fs::path& to) 
 
 std::error_code FailingFiles::FlushFolder(const fs::path& folder) {
   return Fails(Operation::FlushFolder) ? error_ : SystemFiles().FlushFolder(folder);
+}
+
+std::error_code FailingFiles::FlushVolume(const fs::path& folder) {
+  return Fails(Operation::FlushVolume) ? error_ : SystemFiles().FlushVolume(folder);
 }
 
 std::error_code FailingFiles::Remove(const fs::path& file) {

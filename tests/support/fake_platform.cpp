@@ -12,4 +12,16 @@ void FakePlatform::WritePlainFile(const std::filesystem::path& file, std::string
   tavrel::WritePlainFile(Files, file, bytes);
 }
 
+bool FakePlatform::IsHidden(const std::filesystem::path& file) const {
+  return file.filename().string().starts_with('.');
+}
+
+void FakePlatform::CopyPlainFile(const std::filesystem::path& from, const std::filesystem::path& to) {
+  tavrel::CopyPlainFile(Files, from, to);
+}
+
+void FakePlatform::FlushVolumeOf(const std::filesystem::path& folder) {
+  tavrel::FlushVolumeOf(Files, folder);
+}
+
 }  // namespace tavrel::test

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tavrel {
+
+/// Takes the anchors out of a note one by one and leaves their text, in one pass however they are nested. An
+/// anchor begins with the first '<a href="' that is left; the next "</a>" behind it goes with it. The note
+/// must outlive the pass.
+class AnchorCutter {
+ public:
+  explicit AnchorCutter(std::string_view note) : note_(note) {}
+
+  /// Takes the next anchor out and gives its target; nothing if there is none, and then the text is complete.
+  /// Throws RunTimeError if the anchor has no closing quote or no "</a>".
+  std::optional<std::string> CutNext();
+
+  /// The note without its anchors.
+  std::string& Text() { return passed_; }
+
+ private:
+  bool PassThroughOpening();
+  std::string TakeTarget();
+  void CutClosing();
+  bool PassThrough(char last);
+  std::optional<char> Take();
+
+  std::string_view note_;
+  std::size_t at_ = 0;        ///< how far the note has been read
+  std::string passed_;        ///< the text in front of the next anchor
+  std::string ahead_;         ///< what was read on the way to a "</a>" and comes after `passed_`
+  std::size_t ahead_at_ = 0;  ///< how much of it has been passed
+};
+
+}  // namespace tavrel

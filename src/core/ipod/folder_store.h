@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <vector>
+
+#include "core/platform.h"
+
+/// Published projects as folders on either side, the computer's and the iPod's.
+namespace tavrel {
+
+/// The names of a folder's sub-folders, sorted without letter case. An unreadable folder has none.
+std::vector<std::filesystem::path> Subfolders(const std::filesystem::path& folder, const Platform& platform);
+
+/// Copies the ordinary files of a folder, not the hidden ones, into another, which is made if it is missing.
+/// Files of the same name are replaced, others stay. What was copied is on the disk when it returns. Tells
+/// `progress` after each file how many of how many are done. Throws FileError.
+void CopyFolder(const std::filesystem::path& from, const std::filesystem::path& to, Platform& platform,
+                const std::function<void(int done, int all)>& progress);
+
+/// Deletes the ordinary files of a folder and then the folder. False if the folder is still there because it
+/// holds anything else or a write-protected file. Of a symbolic link only the link goes.
+bool DeleteFolder(const std::filesystem::path& folder, const Platform& platform);
+
+}  // namespace tavrel

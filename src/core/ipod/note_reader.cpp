@@ -1,0 +1,165 @@
+#include "core/ipod/note_reader.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "core/document/markup.h"
+#include "core/ipod/anchor_cutter.h"
+#include "core/text/file_names.h"
+#include "core/text/numbers.h"
+#include "core/text/run_time_error.h"
+#include "core/text/text_files.h"
+
+namespace tavrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr auto kNotFound = std::string_view::npos;
+constexpr int kLastRecord = kLastPage + 1;
+
+void ReplaceAll(std::string& text, std::string_view wanted, std::string_view replacement) {
+  std::size_t found = text.find(wanted);
+  if (found == kNotFound) return;
+  std::string result;
+  std::size_t at = 0;
+  for (; found != kNotFound; found = text.find(wanted, at)) {
+    result.append(text, at, found - at).append(replacement);
+    at = found + wanted.size();
+  }
+  text = result.append(text, at);
+}
+
+/// Cuts the title element out of a note and gives it; nothing if there is none.
+std::string CutTitle(std::string& note) {
+  constexpr std::string_view kOpening = "<title>";
+  constexpr std::string_view kClosing = "</title>";
+  const std::size_t opening = note.find(kOpening);
+  const std::size_t closing = note.find(kClosing);
+  if (opening == kNotFound || closing == kNotFound || closing < opening) return {};
+  const std::size_t length = closing + kClosing.size() - opening;
+  std::string title = note.substr(opening, length);
+  note.erase(opening, length);
+  return title;
+}
+
+void CutMeta(std::string& note) {
+  const std::size_t opening = note.find("<meta ");
+  if (opening == kNotFound) return;
+  const std::size_t end = note.find('>', opening);
+  if (end != kNotFound) note.erase(opening, end + 1 - opening);
+}
+
+void ConvertMarkup(std::string& note) {
+  ReplaceAll(note, "<br>", kLineEnd);
+  ReplaceAll(note, "<p>", kLineEnd);
+  for (const char* tag : {"</p>", "<body>", "</body>"}) ReplaceAll(note, tag, "");
+}
+
+bool IsMusicAddress(std::string_view target) {
+  return target.starts_with("ipod:") || target.starts_with("song=");
+}
+
+/// The value behind a key, up to the next "&". A music link is one line of the document file, so a line break
+/// becomes a blank.
+std::string ValueOf(std::string_view address, std::string_view key) {
+  const std::size_t found = address.find(key);
+  if (found == kNotFound) return {};
+  const std::size_t start = found + key.size();
+  std::string value(address.substr(start, address.find('&', start) - start));
+  ReplaceAll(value, kLineEnd, " ");
+  return value;
+}
+
+std::string MusicRecord(std::string_view address) {
+  constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kKeys = {{
+      {"song=", "<song>"},
+      {"album=", "<album>"},
+      {"composer=", "<composer>"},
+      {"artist=", "<artist>"},
+      {"genre=", "<genre>"},
+      {"playlist=", "<playlist>"},
+  }};
+  std::string record;
+  for (const auto& [key, tag] : kKeys) {
+    if (address.find(key) != kNotFound) AppendTag(record, tag, ValueOf(address, key));
+  }
+  return record;
+}
+
+}  // namespace
+
+NoteReader::NoteReader(Global& global, const std::vector<std::string>& names, const CodePage& code_page)
+    : global_(global), code_page_(code_page) {
+  for (std::size_t i = 0; i < names.size(); ++i) positions_[names[i]] = i + 1;
+}
+
+void NoteReader::ProcessInput(std::string_view note, int page) {
+  if (page > kLastRecord) throw RunTimeError("The folder holds more notes than a project has pages.");
+  std::string content = " " + std::string(note) + " ";
+  std::string record = CutTitle(content);
+  ConvertMarkup(content);
+  CutMeta(content);
+
+  std::string links;
+  AnchorCutter anchors(content);
+  while (const std::optional<std::string> target = anchors.CutNext()) {
+    AppendTag(links, "<linktext>", "");
+    AppendTag(links, "<linkto>", IsMusicAddress(*target) ? ProcessMusic(*target) : ProcessLink(*target));
+  }
+  AppendTag(record, "<text>", anchors.Text());
+  AppendTag(record, "<link>", links);
+  global_.Page(page) = std::move(record);
+}
+
+std::string NoteReader::ProcessLink(const std::string& target) const {
+  const auto position = positions_.find(target);
+  return FormatPage(position == positions_.end() ? 1 : static_cast<int>(position->second));
+}
+
+std::string NoteReader::ProcessMusic(std::string_view target) {
+  int number = 1;
+  while (number <= kLastMusicLink && !global_.MusicLink(number).empty()) ++number;
+  if (number > kLastMusicLink) throw RunTimeError("The notes link to more than 100 pieces of music.");
+  const std::string record = MusicRecord(target);
+  if (record.empty()) return MusicLinkName(number);
+  const auto [same, is_new] = music_links_.try_emplace(code_page_.Lower(record), number);
+  if (is_new) global_.MusicLink(number) = record;
+  return MusicLinkName(same->second);
+}
+
+std::string NoteLines(std::string_view bytes) {
+  std::string lines;
+  lines.reserve(bytes.size() + bytes.size() / 16 + kLineEnd.size());
+  std::size_t at = 0;
+  while (at < bytes.size()) {
+    const std::size_t end = std::min(bytes.find_first_of(kLineEnd, at), bytes.size());
+    lines.append(bytes, at, end - at).append(kLineEnd);
+    at = bytes.substr(end).starts_with(kLineEnd) ? end + kLineEnd.size() : end + 1;
+  }
+  return lines;
+}
+
+void ImportNotes(Global& global, const fs::path& folder, const std::vector<fs::path>& notes,
+                 const CodePage& code_page, const std::function<void(int)>& progress) {
+  ClearDocument(global);
+  global.DocPath = folder.filename();
+  global.DocPath += ".dat";
+
+  std::vector<std::string> names;
+  for (const fs::path& note : notes) names.push_back(NameInCodePage(note, code_page));
+  NoteReader reader(global, names, code_page);
+  int page = 0;
+  for (const fs::path& note : notes) {
+    const std::string lines = NoteLines(ReadWholeFile(folder / note));
+    try {
+      reader.ProcessInput(lines, ++page);
+    } catch (const RunTimeError& error) {
+      throw RunTimeError(PathText(folder / note) + "\ncould not be imported: " + error.what());
+    }
+    progress(page);
+  }
+}
+
+}  // namespace tavrel
