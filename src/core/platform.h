@@ -29,6 +29,9 @@ class Platform {
   /// Whether the volume's root can be read now (a drive without a disk cannot).
   virtual bool IsReady(const Volume& volume) const = 0;
 
+  /// Whether files can be made in a folder.
+  virtual bool IsWritable(const std::filesystem::path& folder) const = 0;
+
   /// Whether it is the volume that the system itself lies on.
   virtual bool IsSystemVolume(const Volume& volume) const = 0;
 

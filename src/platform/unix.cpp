@@ -109,6 +109,10 @@ class UnixPlatform final : public Platform {
     return !error;
   }
 
+  bool IsWritable(const fs::path& folder) const override {
+    return ::access(folder.c_str(), W_OK | X_OK) == 0;
+  }
+
   bool IsSystemVolume(const Volume& volume) const override { return volume.Root == "/"; }
 
   bool IsHidden(const fs::path& file) const override { return file.filename().native().starts_with('.'); }

@@ -13,13 +13,17 @@ namespace tavrel::test {
 class FakePlatform final : public Platform {
  public:
   std::vector<Volume> FakeVolumes;
-  std::set<std::string> NotReady;   ///< names of volumes that cannot be read
+  std::set<std::string> NotReady;  ///< names of volumes that cannot be read
+  std::set<std::filesystem::path> NotWritable;
   std::string SystemVolume = "c:";  ///< name of the system's own volume
   FailingFiles Files;
 
   const CodePage& SystemCodePage() const override { return CodePage::Windows1252(); }
   std::vector<Volume> Volumes() const override { return FakeVolumes; }
   bool IsReady(const Volume& volume) const override { return !NotReady.contains(volume.Name); }
+  bool IsWritable(const std::filesystem::path& folder) const override {
+    return !NotWritable.contains(folder);
+  }
   bool IsSystemVolume(const Volume& volume) const override { return volume.Name == SystemVolume; }
   bool IsHidden(const std::filesystem::path& file) const override;
   void WriteWholeFile(const std::filesystem::path& file, std::string_view bytes) override;

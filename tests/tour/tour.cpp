@@ -1,9 +1,11 @@
 #include "tour/tour.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QTabWidget>
 #include <QTest>
 
 #include <iostream>
@@ -12,7 +14,6 @@
 #include "core/shell/program_folder.h"
 #include "core/text/file_names.h"
 #include "core/text/text_files.h"
-#include "platform/system_platform.h"
 #include "support/user.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/text_conversion.h"
@@ -22,14 +23,28 @@ namespace tavrel::test {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+/// A folder's row in a list of folders, where rows are indented.
+QString FolderRow(const QListWidget& folders, const QString& name) {
+  for (int row = 0; row < folders.count(); ++row) {
+    if (folders.item(row)->text().trimmed() == name) return folders.item(row)->text();
+  }
+  throw std::runtime_error("no folder " + name.toStdString());
+}
+
+}  // namespace
+
 Tour::Tour(const fs::path& output)
-    : output_(fs::absolute(output)),
-      platform_(MakeSystemPlatform()),
-      app_{state_, *platform_, messages_, program_} {
+    : output_(fs::absolute(output)), app_{state_, platform_, messages_, program_} {
   fs::remove_all(output_ / "pictures");
   fs::remove_all(output_ / "Tavrel Writer");
   fs::create_directories(output_ / "pictures");
   state_.ProgramFolder = output_ / "Tavrel Writer";
+  fs::remove_all(output_ / "iPod");
+  fs::create_directories(output_ / "iPod" / "Notes");
+  platform_.FakeVolumes = {{"/", "/"}, {"iPod", output_ / "iPod"}};
+  platform_.SystemVolume = "/";
 }
 
 bool Tour::Play() {
@@ -42,8 +57,10 @@ bool Tour::Play() {
   MoveBlocks();
   SaveProject();
   PublishProject();
+  CopyToTheIpod();
   SaveUnderAnotherName();
   ReadTheSample();
+  ImportBack();
   LookAtTheOtherDialogs();
 
   for (const QString& fault : robot_.Faults()) std::cout << "fault: " << fault.toStdString() << '\n';
@@ -56,7 +73,7 @@ bool Tour::Play() {
 
 void Tour::StartProgram() {
   EnterProgramFolder(state_.ProgramFolder);
-  InstallSampleProject(state_.ProgramFolder, *platform_);
+  InstallSampleProject(state_.ProgramFolder, platform_);
   window_ = std::make_unique<Main>(app_);
   program_.Run([this] { window_->Form_Load(); });
   window_->show();
@@ -111,6 +128,18 @@ void Tour::PublishProject() {
   Choose("ToolsPublish");
 }
 
+void Tour::CopyToTheIpod() {
+  robot_.Expect("Manage", [this](QWidget& dialog) {
+    ClickListRow(Find<QListWidget>(dialog, "List1"), "City walk");
+    Click(dialog, "Command2");
+    TakePicture(dialog, "manager");
+    Find<QTabWidget>(dialog, "SSTab1").setCurrentIndex(1);
+    TakePicture(dialog, "browser");
+    Click(dialog, "Command4");
+  });
+  Choose("ToolsManage");
+}
+
 void Tour::SaveUnderAnotherName() {
   robot_.Expect("SaveAs", [this](QWidget& dialog) {
     TypeInto(dialog, "Text1", "City walk by night");
@@ -130,6 +159,26 @@ void Tour::ReadTheSample() {
   Choose("FileOpen");
   ShowPage(8);
   TakePicture(*window_, "sample");
+}
+
+void Tour::ImportBack() {
+  AnswerMessage("import-question", "OK");
+  robot_.Expect("Import", [this](QWidget& dialog) {
+    auto& drives = Find<QComboBox>(dialog, "Drive1");
+    ActivateWindow(dialog);
+    drives.setFocus();
+    PressKey(drives, Qt::Key_Down);
+    for (const char* folder : {"Notes", "City walk"}) {
+      auto& folders = Find<QListWidget>(dialog, "Dir1");
+      DoubleClickListRow(folders, FolderRow(folders, folder));
+    }
+    TakePicture(dialog, "import");
+    Click(dialog, "Command2");
+  });
+  AnswerMessage("imported", "OK");
+  Choose("ToolsImport");
+  ShowPage(1);
+  TakePicture(*window_, "imported-page");
 }
 
 void Tour::LookAtTheOtherDialogs() {
@@ -193,7 +242,7 @@ void Tour::TakePicture(QWidget& window, const QString& name) {
 void Tour::PrintNotes() const {
   const fs::path folder = state_.ProgramFolder / "City walk";
   std::cout << "project: " << (state_.ProgramFolder / "City walk.dat").string() << '\n';
-  for (const FolderFile& note : ListFiles(folder, ".txt", platform_->SystemCodePage())) {
+  for (const FolderFile& note : ListFiles(folder, ".txt", platform_.SystemCodePage())) {
     std::cout << "note: " << (folder / note.Name).string() << '\n';
   }
   std::cout << "\nThe first note reads:\n" << ReadWholeFile(folder / "z001.txt");

@@ -6,7 +6,7 @@
 #include <memory>
 
 #include "core/document/global.h"
-#include "core/platform.h"
+#include "support/fake_platform.h"
 #include "support/recording.h"
 #include "support/robot.h"
 #include "ui/app.h"
@@ -15,7 +15,8 @@
 
 namespace tavrel::test {
 
-/// A whole job in the real windows: a project is made, written, changed, saved and published.
+/// A whole job in the real windows: a project is made, written, changed, saved, published, copied to a
+/// pretend iPod and imported back.
 class Tour {
  public:
   /// Pictures and the tour's own program folder go into `output`, which is emptied first.
@@ -34,8 +35,10 @@ class Tour {
   void MoveBlocks();
   void SaveProject();
   void PublishProject();
+  void CopyToTheIpod();
   void SaveUnderAnotherName();
   void ReadTheSample();
+  void ImportBack();
   void LookAtTheOtherDialogs();
 
   void Choose(const QString& menu_item);
@@ -49,7 +52,7 @@ class Tour {
   void PrintNotes() const;
 
   std::filesystem::path output_;
-  std::unique_ptr<Platform> platform_;
+  FakePlatform platform_;
   Global state_;
   MessageBoxes messages_;
   RecordedProgram program_;

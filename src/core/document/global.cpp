@@ -10,6 +10,12 @@ void ClearDocument(Global& global) {
   global.IsDocumentShown = false;
 }
 
+int LastPage(const Global& global) {
+  int page = kLastPage;
+  while (page > 1 && global.Page(page).empty()) --page;
+  return page;
+}
+
 std::filesystem::path DocumentFile(const Global& global) {
   return global.ProgramFolder / global.DocPath;
 }

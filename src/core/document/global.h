@@ -42,6 +42,9 @@ struct Global {
 /// Empties pages 1 to 999 and music links 1 to 100; the entries beyond stay.
 void ClearDocument(Global& global);
 
+/// The number of the last page; 1 if there are no pages.
+int LastPage(const Global& global);
+
 /// The full path of the open document's file.
 std::filesystem::path DocumentFile(const Global& global);
 

@@ -1,5 +1,7 @@
 #include "core/shell/messages.h"
 
+#include "core/text/numbers.h"
+
 namespace tavrel::messages {
 namespace {
 
@@ -52,6 +54,29 @@ Message ProjectSaved() {
 
 Message NotFound() {
   return {"Not found!    ", Buttons::Ok, Icon::Exclamation, "Find"};
+}
+
+Message ImportErasesDocument() {
+  return Question("Importing a new document will erase the    \r\ncurrent one in memory. Continue?    ");
+}
+
+Message ImportFinished(int last_page) {
+  return {" Last page is" + SignedText(last_page) +
+              ". Not all pages have titles    \r\n and notes, so will not show up in the page    \r\n"
+              " table until selected.\r\n",
+          Buttons::Ok, Icon::Exclamation, "Please note..."};
+}
+
+Message DeleteFolderQuestion(std::string_view path) {
+  return {"Are you sure you want to delete...\r\n" + std::string(path), Buttons::OkCancel, Icon::Question,
+          "Please confirm"};
+}
+
+Message DeleteFolderFailed() {
+  return {
+      "The folder could not be deleted because    \r\nit contains subfolders, read-only, hidden    \r\n"
+      "or system files. Delete it manually using    \r\nWindows Explorer.  \r\n",
+      Buttons::Ok, Icon::Exclamation, "Operation failed"};
 }
 
 Message PublishFinished() {

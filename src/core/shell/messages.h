@@ -31,6 +31,10 @@ Message NothingToSave();
 Message NothingToPublish();
 Message ProjectSaved();
 Message NotFound();
+Message ImportErasesDocument();
+Message ImportFinished(int last_page);
+Message DeleteFolderQuestion(std::string_view path);
+Message DeleteFolderFailed();
 Message PublishFinished();
 Message DriveNotAvailable(std::string_view drive);
 

@@ -15,7 +15,7 @@ Dialog::Dialog(App& app, QWidget* parent) : QDialog(parent), app_(app) {}
 void Dialog::PrepareControls() {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
   for (LineField* field : findChildren<LineField*>()) field->SetCodePage(app_.CodePageInUse());
-  for (FileList* list : findChildren<FileList*>()) list->SetCodePage(app_.CodePageInUse());
+  for (FileList* list : findChildren<FileList*>()) list->SetPlatform(app_.System);
   // Wrapped labels need more height in larger fonts than the form gives them.
   if (hasHeightForWidth()) resize(width(), std::max(height(), heightForWidth(width())));
 }

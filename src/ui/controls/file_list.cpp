@@ -5,15 +5,16 @@
 
 namespace tavrel {
 
-FileList::FileList(QWidget* parent) : QListWidget(parent), code_page_(&CodePage::Windows1252()) {}
+FileList::FileList(QWidget* parent) : QListWidget(parent) {}
 
 void FileList::SetPath(const std::filesystem::path& path) {
   path_ = path;
+  files_.clear();
   clear();
-  for (const FolderFile& file : ListFiles(path, "", *code_page_)) {
-    const QString name = ToText(file.Name);
-    const bool hidden = name.startsWith('.');
-    if (!hidden) addItem(name);
+  for (const FolderFile& file : ListFiles(path, extension_, platform_->SystemCodePage())) {
+    if (platform_->IsHidden(path / file.Name)) continue;
+    files_.push_back(file.Name);
+    addItem(ToText(file.Name));
   }
 }
 

@@ -3,26 +3,36 @@
 #include <QListWidget>
 
 #include <filesystem>
+#include <string>
+#include <vector>
 
-#include "core/text/code_page.h"
+#include "core/platform.h"
 
 namespace tavrel {
 
-/// Shows the ordinary files of one folder, in alphabetical order.
+/// Shows the ordinary files of one folder that are not hidden, in alphabetical order.
 class FileList : public QListWidget {
   Q_OBJECT
 
  public:
   explicit FileList(QWidget* parent = nullptr);
 
-  void SetCodePage(const CodePage& code_page) { code_page_ = &code_page; }
+  void SetPlatform(const Platform& platform) { platform_ = &platform; }
+
+  /// Shows only files whose names end so, such as ".txt"; letter case does not matter.
+  void SetExtension(std::string extension) { extension_ = std::move(extension); }
 
   const std::filesystem::path& Path() const { return path_; }
   void SetPath(const std::filesystem::path& path);
 
+  /// The names of the files shown, in their order.
+  const std::vector<std::filesystem::path>& Files() const { return files_; }
+
  private:
-  const CodePage* code_page_;
+  const Platform* platform_ = nullptr;
+  std::string extension_;
   std::filesystem::path path_;
+  std::vector<std::filesystem::path> files_;
 };
 
 }  // namespace tavrel

@@ -15,40 +15,27 @@ namespace tavrel {
 Publish::Publish(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::Publish>()) {
   ui_->setupUi(this);
   PrepareControls();
+  side_ = std::make_unique<FolderSide>(app_, this, *ui_->Drive1, *ui_->Dir1, *ui_->File1);
   On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   On(app_.Control, ui_->Drive1, &DriveList::Change, this, [this] { Drive1_Change(); });
   On(app_.Control, ui_->Dir1, &FolderList::Change, this, [this] { Dir1_Change(); });
-  On(app_.Control, ui_->Dir1, &FolderList::OpenFailed, this,
-     [this](const std::filesystem::path& folder, const std::error_code& error) {
-       ShowError(FileError(folder, "could not be opened", error));
-     });
   Form_Load();
 }
 
 Publish::~Publish() = default;
 
 void Publish::Form_Load() {
-  const std::filesystem::path& folder = app_.State.ProgramFolder;
-  ui_->Drive1->SetVolumes(app_.System.Volumes());
-  ui_->Drive1->SetDriveOf(folder);
-  ui_->Dir1->SetPath(folder);
-  ui_->File1->SetPath(folder);
+  side_->Show(app_.State.ProgramFolder);
   ui_->Text1->SetBytes(NameInCodePage(DocumentName(app_.State), app_.CodePageInUse()));
 }
 
 void Publish::Drive1_Change() {
-  const Volume& drive = ui_->Drive1->Drive();
-  if (app_.System.IsReady(drive) && !ui_->Dir1->SetPath(drive.Root)) {
-    ui_->File1->SetPath(drive.Root);
-    return;
-  }
-  app_.Messages.Show(this, messages::DriveNotAvailable(drive.Name));
-  ui_->Drive1->SetDriveOf(ui_->File1->Path());
+  side_->ChangeDrive();
 }
 
 void Publish::Dir1_Change() {
-  ui_->File1->SetPath(ui_->Dir1->Path());
+  side_->ChangeFolder();
 }
 
 void Publish::Command1_Click() {
@@ -62,7 +49,7 @@ void Publish::Command2_Click() {
                                .BackgroundMusic = ui_->Check2->isChecked()};
   try {
     const Hourglass hourglass;
-    PublishNotes(app_.State, app_.System, ui_->Dir1->Path() / PathFromName(name, app_.CodePageInUse()),
+    PublishNotes(app_.State, app_.System, side_->Folder() / PathFromName(name, app_.CodePageInUse()),
                  options);
   } catch (const FileError& error) {
     ShowError(error);

@@ -4,6 +4,7 @@
 
 #include "core/text/run_time_error.h"
 #include "ui/controls/dialog.h"
+#include "ui/ipod/folder_side.h"
 
 namespace Ui {
 class Publish;
@@ -30,6 +31,7 @@ class Publish : public Dialog {
   void ShowError(const FileError& error);
 
   std::unique_ptr<Ui::Publish> ui_;
+  std::unique_ptr<FolderSide> side_;
 };
 
 }  // namespace tavrel

@@ -19,6 +19,8 @@ class ToolsCommands : public QObject {
 
  public slots:
   void ToolsPublish_Click();
+  void ToolsManage_Click();
+  void ToolsImport_Click();
 
  private:
   App& app_;

@@ -37,6 +37,8 @@ void Commands::ConnectFileMenu() {
   Connect(ui_.FileDelete, file_menu_, &FileMenu::FileDelete_Click);
   Connect(ui_.FileExit, file_menu_, &FileMenu::FileExit_Click);
   Connect(ui_.ToolsPublish, tools_, &ToolsCommands::ToolsPublish_Click);
+  Connect(ui_.ToolsManage, tools_, &ToolsCommands::ToolsManage_Click);
+  Connect(ui_.ToolsImport, tools_, &ToolsCommands::ToolsImport_Click);
 }
 
 void Commands::ConnectPageMenu() {
