@@ -9,8 +9,14 @@ namespace tavrel::bench {
 /// Loading, saving and publishing the full-size document.
 std::vector<Row> FileRows();
 
-/// Storing the page in the editor and showing another.
-Row PageRow();
+/// Storing the page in the editor and showing another; opening the Music Editor.
+std::vector<Row> WindowRows();
+
+/// Renumbering the links of the full-size document, searching its texts and replacing in them.
+std::vector<Row> EditingRows();
+
+/// Importing notes and copying them.
+std::vector<Row> IpodRows();
 
 /// Starting the program, and its memory with the full-size document open.
 std::vector<Row> ProcessRows();

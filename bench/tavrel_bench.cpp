@@ -16,8 +16,9 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   try {
     std::vector<Row> rows = FileRows();
-    rows.push_back(PageRow());
-    for (Row& row : ProcessRows()) rows.push_back(std::move(row));
+    for (const auto& more : {WindowRows, EditingRows, IpodRows, ProcessRows}) {
+      for (Row& row : more()) rows.push_back(std::move(row));
+    }
     PrintTable(rows);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "The figures could not be measured: %s\n", error.what());

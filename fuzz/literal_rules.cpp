@@ -9,14 +9,6 @@
 namespace tavrel::fuzz {
 namespace {
 
-/// The position of `wanted` in `text`, counted from 1 and searched from position `from`; 0 if absent.
-std::size_t Position(const std::string& text, const std::string& wanted, std::size_t from) {
-  for (std::size_t at = from; at + wanted.size() <= text.size() + 1; ++at) {
-    if (text.compare(at - 1, wanted.size(), wanted) == 0) return at;
-  }
-  return 0;
-}
-
 std::size_t OpeningPosition(const std::string& text, const std::string& tag, int occurrence) {
   std::size_t position = Position(text, tag, 1);
   while (occurrence > 1 && position > 0) {
@@ -115,6 +107,13 @@ std::size_t Checked(double index, double last) {
 }
 
 }  // namespace
+
+std::size_t Position(const std::string& text, const std::string& wanted, std::size_t from) {
+  for (std::size_t at = from; at + wanted.size() <= text.size() + 1; ++at) {
+    if (text.compare(at - 1, wanted.size(), wanted) == 0) return at;
+  }
+  return 0;
+}
 
 void LiteralReadDocument(const std::string& text, Global& global) {
   bool in_pages = false;

@@ -9,6 +9,9 @@
 /// positions from 1, for comparison with the code that the program runs.
 namespace tavrel::fuzz {
 
+/// The position of `wanted` in `text`, counted from 1 and searched from position `from`; 0 if absent.
+std::size_t Position(const std::string& text, const std::string& wanted, std::size_t from);
+
 std::string LiteralGetTag(const std::string& text, const std::string& tag, int occurrence);
 void LiteralSetTag(std::string& text, const std::string& value, const std::string& tag, int occurrence);
 

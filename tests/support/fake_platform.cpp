@@ -21,7 +21,7 @@ void FakePlatform::CopyPlainFile(const std::filesystem::path& from, const std::f
 }
 
 void FakePlatform::FlushVolumeOf(const std::filesystem::path& folder) {
-  tavrel::FlushVolumeOf(Files, folder);
+  if (FlushesVolumes) tavrel::FlushVolumeOf(Files, folder);
 }
 
 }  // namespace tavrel::test

@@ -15,6 +15,7 @@ class FakePlatform final : public Platform {
   std::vector<Volume> FakeVolumes;
   std::set<std::string> NotReady;  ///< names of volumes that cannot be read
   std::set<std::filesystem::path> NotWritable;
+  bool FlushesVolumes = true;       ///< whether FlushVolumeOf takes its time
   std::string SystemVolume = "c:";  ///< name of the system's own volume
   FailingFiles Files;
 

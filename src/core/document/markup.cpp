@@ -40,11 +40,19 @@ bool TagWalker::Next() {
 
   // The closing tag found for one element serves all that open before it, which keeps the walk linear.
   content_start_ = opening + tag_.size();
-  if (closing_ != kNotFound && closing_ < content_start_) {
-    closing_ = FindTag(text_, closing_tag_, content_start_);
-  }
+  if (closing_ != kNotFound && closing_ < content_start_) FindClosing();
   if (closing_ != kNotFound) content_ = text_.substr(content_start_, closing_ - content_start_);
   return true;
+}
+
+void TagWalker::FindClosing() {
+  closing_ = text_.find(tag_.front(), content_start_);
+  if (closing_ != kNotFound && text_.substr(closing_).starts_with(closing_tag_)) {
+    // Nothing opens in between, unless the tag overlaps itself.
+    if (tag_.find(tag_.front(), 1) == kNotFound) search_from_ = closing_ + 1;
+  } else if (closing_ != kNotFound) {
+    closing_ = FindTag(text_, closing_tag_, closing_);
+  }
 }
 
 std::string GetTag(std::string_view text, std::string_view tag, int occurrence) {

@@ -25,6 +25,8 @@ class TagWalker {
   std::string_view NextContent() { return Next() ? Content() : std::string_view(); }
 
  private:
+  void FindClosing();
+
   std::string_view text_;
   std::string_view tag_;
   std::string closing_tag_;

@@ -14,14 +14,14 @@ constexpr std::size_t kMostGrowth = 1'000'000;
 
 }  // namespace
 
-std::size_t PositionIn(std::string_view text, std::size_t from, const Searcher& searcher) {
-  const auto found = std::search(text.begin() + static_cast<std::ptrdiff_t>(from), text.end(), searcher);
-  return static_cast<std::size_t>(found - text.begin());
+Replacement::Replacement(std::string_view text, const TextSearch& search, std::string_view replacement)
+    : text_(text),
+      search_(search),
+      wanted_(search.Wanted()),
+      replacement_(replacement),
+      plain_(std::min(replacement.find(wanted_.front(), wanted_.size()), replacement.size())) {
+  done_.reserve(text.size());
 }
-
-Replacement::Replacement(std::string_view text, std::string_view folded, std::string_view wanted,
-                         std::string_view replacement, const Searcher& searcher)
-    : text_(text), folded_(folded), wanted_(wanted), replacement_(replacement), searcher_(searcher) {}
 
 std::string Replacement::Run() {
   while (FindNext() && IsWithinLimits()) ReplaceMatch();
@@ -30,20 +30,25 @@ std::string Replacement::Run() {
 }
 
 bool Replacement::FindNext() {
-  while (!ahead_.empty()) {
+  for (PassToCandidate(); !ahead_.empty(); PassToCandidate()) {
     if (IsMatchHere()) return true;
     Pass(1);
   }
-  const std::size_t position = PositionIn(folded_, at_, searcher_);
-  Pass(position - at_);
+  Pass(search_.Find(text_, at_) - at_);
   return at_ < text_.size();
+}
+
+/// A match in what is ahead can only begin where the wanted text's first character stands.
+void Replacement::PassToCandidate() {
+  const std::size_t candidate = ahead_.rfind(wanted_.front());
+  Pass(ahead_.size() - (candidate == std::string::npos ? 0 : candidate + 1));
 }
 
 bool Replacement::IsMatchHere() const {
   const std::size_t within = std::min(wanted_.size(), ahead_.size());
   return std::equal(wanted_.begin(), wanted_.begin() + static_cast<std::ptrdiff_t>(within),
                     ahead_.rbegin()) &&
-         folded_.substr(at_).starts_with(wanted_.substr(within));
+         search_.IsStartOf(text_.substr(at_), within);
 }
 
 bool Replacement::IsWithinLimits() const {
@@ -53,11 +58,10 @@ bool Replacement::IsWithinLimits() const {
 
 void Replacement::ReplaceMatch() {
   Drop(wanted_.size());
-  const std::size_t passed = std::min(wanted_.size(), replacement_.size());
-  done_ += replacement_.substr(0, passed);
-  const std::string_view rest = replacement_.substr(passed);
+  done_ += replacement_.substr(0, plain_);
+  const std::string_view rest = replacement_.substr(plain_);
   ahead_.append(rest.rbegin(), rest.rend());
-  Pass(wanted_.size() - passed);
+  Pass(wanted_.size() - std::min(wanted_.size(), replacement_.size()));
 }
 
 void Replacement::Drop(std::size_t count) {
@@ -67,12 +71,12 @@ void Replacement::Drop(std::size_t count) {
 }
 
 void Replacement::Pass(std::size_t count) {
-  const std::size_t of_ahead = std::min(count, ahead_.size());
-  done_.append(ahead_.rbegin(), ahead_.rbegin() + static_cast<std::ptrdiff_t>(of_ahead));
-  ahead_.resize(ahead_.size() - of_ahead);
-  const std::string_view of_text = text_.substr(at_, count - of_ahead);
-  done_ += of_text;
-  at_ += of_text.size();
+  for (; count > 0 && !ahead_.empty(); --count) {
+    done_ += ahead_.back();
+    ahead_.pop_back();
+  }
+  done_.append(text_, at_, count);
+  at_ += std::min(count, text_.size() - at_);
 }
 
 }  // namespace tavrel

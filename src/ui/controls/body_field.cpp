@@ -35,11 +35,13 @@ QString WithoutPictures(QString text) {
 }
 
 /// Whether a text holds a word so long that looking for a place to break it would take the layout minutes.
+/// No-break spaces belong to their word.
 bool HasEndlessWord(const QString& text) {
   constexpr qsizetype kEndless = 2000;
   qsizetype length = 0;
   for (const QChar c : text) {
-    length = c.isSpace() ? 0 : length + 1;
+    const bool breaks = c.isSpace() && c != QChar::Nbsp;
+    length = breaks ? 0 : length + 1;
     if (length > kEndless) return true;
   }
   return false;

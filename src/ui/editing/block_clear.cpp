@@ -18,6 +18,12 @@ BlockClear::BlockClear(App& app, QWidget* parent)
 
 BlockClear::~BlockClear() = default;
 
+int BlockClear::exec() {
+  ui_->Text1->setFocus();
+  ui_->Text1->selectAll();
+  return Dialog::exec();
+}
+
 void BlockClear::Command1_Click() {
   reject();
 }

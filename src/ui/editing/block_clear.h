@@ -18,6 +18,9 @@ class BlockClear : public Dialog {
   BlockClear(App& app, QWidget* parent);
   ~BlockClear() override;
 
+  /// Begins with the first number.
+  int exec() override;
+
  public slots:
   void Command1_Click();
   void Command2_Click();

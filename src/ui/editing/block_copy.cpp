@@ -18,6 +18,12 @@ BlockCopy::BlockCopy(App& app, QWidget* parent)
 
 BlockCopy::~BlockCopy() = default;
 
+int BlockCopy::exec() {
+  ui_->Text1->setFocus();
+  ui_->Text1->selectAll();
+  return Dialog::exec();
+}
+
 void BlockCopy::Command1_Click() {
   reject();
 }

@@ -18,6 +18,9 @@ class BlockCopy : public Dialog {
   BlockCopy(App& app, QWidget* parent);
   ~BlockCopy() override;
 
+  /// Begins with the first number.
+  int exec() override;
+
  public slots:
   void Command1_Click();
   void Command2_Click();

@@ -31,6 +31,15 @@ int ColumnOf(std::size_t field) {
   return static_cast<int>(field) + 1;
 }
 
+/// The tags at which a field's text would be taken for something else: its own closing tag and the opening
+/// tags of the others.
+QStringList TagsThatSpoil(std::size_t field) {
+  QStringList tags;
+  for (const std::string_view tag : kMusicTags) tags << QString::fromStdString(std::string(tag));
+  tags[static_cast<qsizetype>(field)] = QString::fromStdString(ClosingTag(kMusicTags[field]));
+  return tags;
+}
+
 }  // namespace
 
 MusicEditor::MusicEditor(App& app, QWidget* parent)
@@ -54,7 +63,7 @@ void MusicEditor::ConnectControls() {
   ui_->TagNotice->SetOwner("A music link");
   for (std::size_t field = 0; field < kMusicFields; ++field) {
     On(control, text1_[field], &LineField::returnPressed, this, [this] { Text1_KeyPress(); });
-    ui_->TagNotice->Watch(*text1_[field], {QString::fromStdString(ClosingTag(kMusicTags[field]))});
+    ui_->TagNotice->Watch(*text1_[field], TagsThatSpoil(field));
   }
 }
 

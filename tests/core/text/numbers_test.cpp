@@ -88,6 +88,25 @@ TEST(WholeValue, StaysWithinItsBounds) {
   EXPECT_EQ(WholeValue("2147483647"), 2147483647);
 }
 
+TEST(DecimalNumber, ReadsDigitsWithBlanksAroundThem) {
+  EXPECT_EQ(DecimalNumber("0"), 0);
+  EXPECT_EQ(DecimalNumber("7"), 7);
+  EXPECT_EQ(DecimalNumber("007"), 7);
+  EXPECT_EQ(DecimalNumber("  012 "), 12);
+  EXPECT_EQ(DecimalNumber("1000"), 1000);
+}
+
+TEST(DecimalNumber, IsZeroForAnythingElse) {
+  for (const char* text : {"", " ", "x", "5x", "x5", "+5", "-5", "5.0", "1e2", "1 2", "\t5", "5\n", "&H5"})
+    EXPECT_EQ(DecimalNumber(text), 0) << text;
+}
+
+TEST(DecimalNumber, StaysWithinItsBound) {
+  EXPECT_EQ(DecimalNumber("2147483647"), 2147483647);
+  EXPECT_EQ(DecimalNumber("2147483648"), 2147483647);
+  EXPECT_EQ(DecimalNumber("99999999999999999999"), 2147483647);
+}
+
 TEST(LeadingDigits, StopsAtTheFirstOtherCharacter) {
   EXPECT_EQ(LeadingDigits("2"), 2);
   EXPECT_EQ(LeadingDigits("007"), 7);

@@ -57,6 +57,19 @@ TEST(BodyFieldTest, CopiesNoBreakSpacesAsTheyAre) {
   EXPECT_EQ(copied->text(), u"a\u00A0b\nc"_qs);
 }
 
+TEST(BodyFieldTest, BreaksEndlessWordsAnywhereAndOthersBetweenWords) {
+  constexpr std::size_t kTooLong = 2001;
+  BodyField field;
+  for (const std::string& word : {std::string(kTooLong, 'w'), std::string(kTooLong, '\xA0')}) {
+    field.SetBytes("a " + word);
+    EXPECT_EQ(field.wordWrapMode(), QTextOption::WrapAnywhere);
+    field.SetBytes("a " + word.substr(1));
+    EXPECT_EQ(field.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+    field.ReplaceSelection(QString::fromLatin1(word.c_str()));
+    EXPECT_EQ(field.wordWrapMode(), QTextOption::WrapAnywhere);
+  }
+}
+
 TEST(BodyFieldTest, TheInputMethodsTextIsMadeFit) {
   BodyField field;
   int replaced = 0;

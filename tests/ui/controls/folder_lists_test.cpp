@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 #include "support/user.h"
 #include "ui/controls/drive_list.h"
@@ -76,9 +77,15 @@ TEST_F(FolderListsTest, AFolderThatCannotBeReadChangesNothing) {
 }
 
 TEST_F(FolderListsTest, FilesAreListedInAlphabeticalOrderWithoutHiddenOnes) {
+  const FakePlatform platform;
   FileList list;
+  list.SetPlatform(platform);
   list.SetPath(folder_.Path());
   EXPECT_EQ(Rows(list), (QStringList{"One.txt", "three.dat", "two.TXT"}));
+  list.SetExtension(".txt");
+  list.SetPath(folder_.Path());
+  EXPECT_EQ(Rows(list), (QStringList{"One.txt", "two.TXT"}));
+  EXPECT_EQ(list.Files(), (std::vector<std::filesystem::path>{"One.txt", "two.TXT"}));
 }
 
 TEST_F(FolderListsTest, TheDriveOfAFolderIsTheOneClosestAboveIt) {

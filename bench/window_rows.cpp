@@ -2,7 +2,9 @@
 #include <QEvent>
 #include <QPlainTextEdit>
 
+#include <memory>
 #include <stdexcept>
+#include <vector>
 
 #include "core/document/document_file.h"
 #include "rows.h"
@@ -10,12 +12,14 @@
 #include "support/full_size_document.h"
 #include "support/recording.h"
 #include "support/temporary_folder.h"
+#include "ui/ipod/music_editor.h"
 #include "ui/main/main_window.h"
 
 namespace tavrel::bench {
 namespace {
 
 constexpr int kMoves = 200;
+constexpr int kOpenings = 50;
 constexpr int kStride = 137;
 constexpr double kFrame = 1.0 / 60;
 
@@ -79,16 +83,33 @@ double TimeMove(OpenEditor& editor, PaintWatch& body) {
   });
 }
 
+double TimeMusicEditor(OpenEditor& editor) {
+  QCoreApplication::processEvents();
+  std::unique_ptr<MusicEditor> dialog;
+  const double seconds = Seconds([&] {
+    dialog = std::make_unique<MusicEditor>(editor.Application, &editor.Window);
+    PaintWatch watch(*dialog);
+    dialog->show();
+    watch.WaitForPaint();
+    QCoreApplication::processEvents();
+  });
+  return seconds;
+}
+
 }  // namespace
 
-Row PageRow() {
+std::vector<Row> WindowRows() {
   OpenEditor editor;
   auto* body = editor.Window.findChild<QPlainTextEdit*>("Text1");
   if (body == nullptr) throw std::runtime_error("the main window has no page text");
   PaintWatch watch(*body->viewport());
-  return Compare(
-      "store a page, show another : 60 Hz frame", 0.5, kMoves, [&] { return TimeMove(editor, watch); },
-      [] { return kFrame; });
+  const auto frame = [] { return kFrame; };
+  return {Compare(
+              "store a page, show another : 60 Hz frame", 0.5, kMoves,
+              [&] { return TimeMove(editor, watch); }, frame),
+          Compare(
+              "open the Music Editor : 60 Hz frame", 1, kOpenings, [&] { return TimeMusicEditor(editor); },
+              frame)};
 }
 
 }  // namespace tavrel::bench

@@ -1,0 +1,92 @@
+#include "core/editing/text_search.h"
+
+#include <algorithm>
+#include <cstring>
+#include <numeric>
+
+namespace tavrel {
+namespace {
+
+/// So many places are looked at together.
+constexpr std::size_t kBlock = 128;
+
+/// In so many places a single letter is looked for together.
+constexpr std::size_t kPart = 1024;
+
+std::string AllBytes() {
+  std::string bytes(256, '\0');
+  std::iota(bytes.begin(), bytes.end(), '\0');
+  return bytes;
+}
+
+}  // namespace
+
+TextSearch::TextSearch(std::string_view wanted, bool match_case, const CodePage& code_page)
+    : wanted_(match_case ? std::string(wanted) : code_page.Lower(wanted)), folded_{} {
+  const std::string bytes = match_case ? AllBytes() : code_page.Lower(AllBytes());
+  std::copy(bytes.begin(), bytes.end(), folded_.begin());
+  first_ = FormsOf(wanted_.front());
+  last_ = FormsOf(wanted_.back());
+}
+
+TextSearch::Forms TextSearch::FormsOf(char wanted) const {
+  Forms forms{wanted, wanted};
+  const auto one = std::find(folded_.begin(), folded_.end(), wanted);
+  const auto other = std::find(one + 1, folded_.end(), wanted);
+  forms.One = static_cast<char>(one - folded_.begin());
+  forms.Other = other == folded_.end() ? forms.One : static_cast<char>(other - folded_.begin());
+  return forms;
+}
+
+bool TextSearch::IsStartOf(std::string_view text, std::size_t skipped) const {
+  return text.size() >= wanted_.size() - skipped &&
+         std::equal(
+             wanted_.begin() + static_cast<std::ptrdiff_t>(skipped), wanted_.end(), text.begin(),
+             [this](char wanted, char byte) { return folded_[static_cast<unsigned char>(byte)] == wanted; });
+}
+
+std::size_t TextSearch::Find(std::string_view text, std::size_t from) const {
+  if (wanted_.size() == 1) return FindLetter(text, from);
+  while (from + wanted_.size() <= text.size()) {
+    const std::size_t count = std::min(kBlock, text.size() - wanted_.size() + 1 - from);
+    const std::size_t found = FindIn(text, from, count);
+    if (found < from + count) return found;
+    from += count;
+  }
+  return text.size();
+}
+
+std::size_t TextSearch::FindLetter(std::string_view text, std::size_t from) const {
+  // In parts: one form may be far away where the other is near.
+  for (; from < text.size(); from += kPart) {
+    const std::string_view part = text.substr(from, kPart);
+    const std::size_t one = part.find(first_.One);
+    const std::size_t found =
+        first_.One == first_.Other ? one : std::min(one, part.substr(0, one).find(first_.Other));
+    if (found != std::string_view::npos) return from + found;
+  }
+  return text.size();
+}
+
+std::size_t TextSearch::FindIn(std::string_view text, std::size_t from, std::size_t count) const {
+  // Without branches, so that the compiler looks at many places at once.
+  std::array<char, kBlock> candidates;
+  const char* first = text.data() + from;
+  const char* last = first + wanted_.size() - 1;
+  const Forms f = first_;
+  const Forms l = last_;
+  for (std::size_t i = 0; i < count; ++i) {
+    const bool is_first = (first[i] == f.One) | (first[i] == f.Other);
+    const bool is_last = (last[i] == l.One) | (last[i] == l.Other);
+    candidates[i] = is_first & is_last;
+  }
+  for (std::size_t at = 0; at < count; ++at) {
+    const void* candidate = std::memchr(candidates.data() + at, 1, count - at);
+    if (candidate == nullptr) break;
+    at = static_cast<std::size_t>(static_cast<const char*>(candidate) - candidates.data());
+    if (IsStartOf(text.substr(from + at), 0)) return from + at;
+  }
+  return from + count;
+}
+
+}  // namespace tavrel
