@@ -156,6 +156,9 @@ void WritePlainFile(FileLayer& files, const fs::path& file, std::string_view byt
 void CopyPlainFile(FileLayer& files, const fs::path& from, const fs::path& to) {
   std::error_code ignored;
   if (fs::equivalent(from, to, ignored)) return;
+  if (fs::is_directory(from, ignored)) {
+    throw FileError(from, "could not be read", std::make_error_code(std::errc::is_a_directory));
+  }
   OpenFile source(files);
   OpenFile target(files);
   ThrowIf(files.Open(from, source.Handle()), from, "could not be read");

@@ -10,9 +10,8 @@ namespace tavrel {
 /// 999 only that page is emptied.
 void InsertPage(Global& global);
 
-/// Takes the current page out, to the clipboard. Links to it then point at the page before it, "000" before
-/// page
-/// 1. On page 999 no link changes.
+/// Takes the current page out, to the clipboard. Links to it then point at the page before it; before page 1
+/// there is only "000". On page 999 no link changes.
 void CutPage(Global& global);
 
 void CopyPage(Global& global);

@@ -9,16 +9,15 @@ namespace {
 /// would otherwise be searched for ever.
 constexpr std::size_t kLastPosition = 32767;
 
-/// Nor may replacements within replacements fill the memory.
-constexpr std::size_t kMostGrowth = 1'000'000;
-
 }  // namespace
 
-Replacement::Replacement(std::string_view text, const TextSearch& search, std::string_view replacement)
+Replacement::Replacement(std::string_view text, const TextSearch& search, std::string_view replacement,
+                         std::size_t room)
     : text_(text),
       search_(search),
       wanted_(search.Wanted()),
       replacement_(replacement),
+      most_length_(text.size() + room),
       plain_(std::min(replacement.find(wanted_.front(), wanted_.size()), replacement.size())) {
   done_.reserve(text.size());
 }
@@ -53,7 +52,7 @@ bool Replacement::IsMatchHere() const {
 
 bool Replacement::IsWithinLimits() const {
   const std::size_t length = done_.size() + ahead_.size() + text_.size() - at_;
-  return done_.size() < kLastPosition && length < text_.size() + kMostGrowth;
+  return done_.size() < kLastPosition && length < most_length_;
 }
 
 void Replacement::ReplaceMatch() {

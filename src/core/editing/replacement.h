@@ -11,7 +11,9 @@ namespace tavrel {
 /// the pass.
 class Replacement {
  public:
-  Replacement(std::string_view text, const TextSearch& search, std::string_view replacement);
+  /// The text may become up to `room` characters longer before the replacing stops.
+  Replacement(std::string_view text, const TextSearch& search, std::string_view replacement,
+              std::size_t room);
 
   std::string Run();
 
@@ -28,6 +30,7 @@ class Replacement {
   const TextSearch& search_;
   std::string_view wanted_;
   std::string_view replacement_;
+  std::size_t most_length_;
   std::size_t plain_;   ///< so much of the replacement is not searched or cannot begin a match
   std::string done_;    ///< what no later match can change
   std::string ahead_;   ///< ends of replacements that are searched next, their last character first

@@ -1,5 +1,7 @@
 #include "core/editing/search.h"
 
+#include <algorithm>
+
 #include "core/document/markup.h"
 #include "core/editing/replacement.h"
 
@@ -8,6 +10,9 @@ namespace {
 
 constexpr const char* kText = "<text>";
 constexpr int kLastRecord = kLastPage + 1;
+
+/// Replacements within replacements must not fill the memory.
+constexpr std::size_t kMostGrowth = 20'000'000;
 
 }  // namespace
 
@@ -25,9 +30,11 @@ std::optional<Match> FindInPages(const Global& global, std::string_view wanted, 
 void ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
                     const CodePage& code_page) {
   const TextSearch search(wanted, match_case, code_page);
+  std::size_t room = kMostGrowth;
   for (int page = 1; page <= kLastRecord; ++page) {
     const std::string_view text = TagContent(global.Page(page), kText, 1);
-    const std::string replaced = Replacement(text, search, replacement).Run();
+    const std::string replaced = Replacement(text, search, replacement, room).Run();
+    if (replaced.size() > text.size()) room -= std::min(room, replaced.size() - text.size());
     SetTag(global.Page(page), replaced, kText, 1);
   }
 }

@@ -76,12 +76,12 @@ void CopyFolder(const fs::path& from, const fs::path& to, Platform& platform,
 bool DeleteFolder(const fs::path& folder, const Platform& platform) {
   std::error_code error;
   if (!fs::is_symlink(folder, error)) {
+    if (!fs::is_directory(folder, error)) return false;
     for (const fs::path& file : OrdinaryFiles(folder, platform, error)) {
       if (!IsWriteProtected(file)) fs::remove(file, error);
     }
   }
-  fs::remove(folder, error);
-  return !fs::exists(fs::symlink_status(folder, error));
+  return fs::remove(folder, error);
 }
 
 }  // namespace tavrel

@@ -9,25 +9,28 @@ TagNotice::TagNotice(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
 }
 
-void TagNotice::Watch(LineField& field, const QStringList& closing_tags) {
+void TagNotice::Watch(LineField& field, const QStringList& tags) {
   connect(&field, &LineField::textChanged, this,
-          [this, &field, closing_tags](const QString& text) { Check(&field, text, closing_tags); });
+          [this, &field, tags](const QString& text) { Check(&field, text, tags); });
 }
 
-void TagNotice::Watch(BodyField& field, const QStringList& closing_tags) {
+void TagNotice::Watch(BodyField& field, const QStringList& tags) {
   connect(&field, &BodyField::textChanged, this,
-          [this, &field, closing_tags] { Check(&field, field.toPlainText(), closing_tags); });
+          [this, &field, tags] { Check(&field, field.toPlainText(), tags); });
 }
 
-void TagNotice::Check(const QObject* field, const QString& text, const QStringList& closing_tags) {
+void TagNotice::Check(const QObject* field, const QString& text, const QStringList& tags) {
   found_tags_.remove(field);
-  for (const QString& tag : closing_tags) {
+  for (const QString& tag : tags) {
     if (text.contains(tag)) found_tags_[field] = tag;
   }
-  setText(
-      found_tags_.isEmpty()
-          ? QString()
-          : QString("%1 cannot keep what follows \"%2\" in this field.").arg(owner_, found_tags_.first()));
+  setText(found_tags_.isEmpty() ? QString() : NoticeOf(found_tags_.first()));
+}
+
+QString TagNotice::NoticeOf(const QString& tag) const {
+  const QString notice = tag.startsWith("</") ? "%1 cannot keep what follows \"%2\" in this field."
+                                              : "%1 takes \"%2\" in this field for its own markup.";
+  return notice.arg(owner_, tag);
 }
 
 }  // namespace tavrel

@@ -9,8 +9,9 @@ namespace tavrel {
 class BodyField;
 class LineField;
 
-/// Tells at once, and for as long as it lasts, that a field holds a closing tag at which its text would end
-/// when it is shown again: records have no way to keep what follows.
+/// Tells at once, and for as long as it lasts, that a field holds a tag which a record has no way to keep: a
+/// closing tag, at which its text would end when it is shown again, or one that would be taken for another
+/// field's.
 class TagNotice : public QLabel {
   Q_OBJECT
 
@@ -20,11 +21,12 @@ class TagNotice : public QLabel {
   /// Whose text it is: "A page".
   void SetOwner(const QString& owner) { owner_ = owner; }
 
-  void Watch(LineField& field, const QStringList& closing_tags);
-  void Watch(BodyField& field, const QStringList& closing_tags);
+  void Watch(LineField& field, const QStringList& tags);
+  void Watch(BodyField& field, const QStringList& tags);
 
  private:
-  void Check(const QObject* field, const QString& text, const QStringList& closing_tags);
+  QString NoticeOf(const QString& tag) const;
+  void Check(const QObject* field, const QString& text, const QStringList& tags);
 
   QString owner_;
   QMap<const QObject*, QString> found_tags_;

@@ -11,7 +11,6 @@ BlockClear::BlockClear(App& app, QWidget* parent)
     : Dialog(app, parent), ui_(std::make_unique<Ui::BlockClear>()) {
   ui_->setupUi(this);
   PrepareControls();
-  ui_->Command2->setDefault(true);
   On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }

@@ -11,7 +11,6 @@ BlockCopy::BlockCopy(App& app, QWidget* parent)
     : Dialog(app, parent), ui_(std::make_unique<Ui::BlockCopy>()) {
   ui_->setupUi(this);
   PrepareControls();
-  ui_->Command2->setDefault(true);
   On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }

@@ -11,7 +11,6 @@ namespace tavrel {
 void BlockQuestion::UseControls(const Controls& controls) {
   controls_ = controls;
   PrepareControls();
-  controls_.Command2->setDefault(true);
   On(app_.Control, controls_.Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   On(app_.Control, controls_.Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }

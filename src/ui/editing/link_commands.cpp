@@ -21,11 +21,12 @@ void LinkCommands::EditLinkUp_Click() {
 
 void LinkCommands::EditLinkDown_Click() {
   const int row = links_.Row();
-  if (row < kLastLink) SwapRows(row, row + 1);
+  if (row >= 1 && row < kLastLink) SwapRows(row, row + 1);
 }
 
 void LinkCommands::EditLinkDelete_Click() {
   const int row = links_.Row();
+  if (row < 1) return;
   for (const int column : {kTextColumn, kTargetColumn}) links_.SetTextMatrix(row, column, "");
   StoreAndShow(row);
 }

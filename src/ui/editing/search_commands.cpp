@@ -27,7 +27,6 @@ void SearchCommands::EditSearch_Click() {
 void SearchCommands::EditFindNext_Click() {
   if (app_.State.FindText.empty()) return;
   editor_.SavePage();
-  // The page after the shown one is passed over, as it always has been.
   ShowMatch(app_.State.CurrentPage + 2);
 }
 

@@ -26,7 +26,7 @@ class SearchCommands : public QObject {
  public slots:
   /// "Find". Searches from page 1 on, whatever page is shown.
   void EditSearch_Click();
-  /// Searches from the page after the next on.
+  /// Searches from the page after the next on: the next one is passed over.
   void EditFindNext_Click();
   void EditReplace_Click();
 

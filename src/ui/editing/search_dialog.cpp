@@ -12,7 +12,6 @@ namespace tavrel {
 void SearchDialog::UseControls(const Controls& controls) {
   controls_ = controls;
   PrepareControls();
-  controls_.Command1->setDefault(true);
   On(app_.Control, controls_.Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   On(app_.Control, controls_.Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
 }

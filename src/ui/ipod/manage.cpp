@@ -138,10 +138,12 @@ void Manage::Dir2_Change() {
 
 void Manage::Copy(const Side& from, const Side& to) {
   const std::optional<std::size_t> row = SelectedRow(from.Projects);
-  if (!row || !IsWritable(to.Browser.Folder())) return;
+  if (!row) return;
   const fs::path& name = from.Names.at(*row);
+  const fs::path target = to.Browser.Folder() / name;
+  if (!IsWritable(fs::exists(target) ? target : to.Browser.Folder())) return;
   const Hourglass hourglass;
-  CopyFolder(from.Browser.Folder() / name, to.Browser.Folder() / name, app_.System,
+  CopyFolder(from.Browser.Folder() / name, target, app_.System,
              [this](int done, int all) { ui_->Progress->Tell(done, all); });
   RefreshFolders();
   ReturnToProgramFolder(app_.State);

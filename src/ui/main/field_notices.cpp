@@ -16,18 +16,18 @@ FieldNotices::FieldNotices(Ui::Main& ui) : ui_(ui) {
   tags->setObjectName("TagNotice");
   tags->SetOwner("A page");
   ui_.StatusBar->addPermanentWidget(tags);
-  const auto watch = [this, tags](LineField& field, const QStringList& closing_tags) {
+  const auto watch = [this, tags](LineField& field, const QStringList& spoiling_tags) {
     connect(&field, &LineField::CharactersReplaced, this, &FieldNotices::TellReplaced);
-    tags->Watch(field, closing_tags);
+    tags->Watch(field, spoiling_tags);
   };
-  watch(*ui_.Text3, {"</title>"});
-  watch(*ui_.Text4, {"</note>"});
-  watch(*ui_.Text5, {"</linktext>", "</link>"});
-  watch(ui_.Combo1->Field(), {"</linkto>", "</link>"});
-  watch(*ui_.Text6, {"</music>"});
+  watch(*ui_.Text3, {"</title>", "<note>", "<text>", "<link>", "<music>"});
+  watch(*ui_.Text4, {"</note>", "<text>", "<link>", "<music>"});
+  watch(*ui_.Text5, {"</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
+  watch(ui_.Combo1->Field(), {"</linkto>", "</link>", "<linktext>", "<linkto>", "<music>"});
+  watch(*ui_.Text6, {"</music>", "<music>"});
   watch(ui_.Combo2->Field(), {"</music>"});
   connect(ui_.Text1, &BodyField::CharactersReplaced, this, &FieldNotices::TellReplaced);
-  tags->Watch(*ui_.Text1, {"</text>"});
+  tags->Watch(*ui_.Text1, {"</text>", "<linktext>", "<linkto>", "<music>"});
 }
 
 void FieldNotices::TellReplaced(int count) {

@@ -9,8 +9,8 @@ class Main;
 namespace tavrel {
 
 /// Tells in the status bar, at once, what a page cannot keep of the text in its fields: characters outside
-/// the code page, which have become "?", and closing tags, at which the page would end when it is shown
-/// again.
+/// the code page, which have become "?", and tags that the page would take for its own markup when it is
+/// shown again.
 class FieldNotices : public QObject {
   Q_OBJECT
 

@@ -112,7 +112,15 @@ void Main::SavePage() {
   fields.Links = grids_->Links();
   app_.State.Page(app_.State.CurrentPage) = BuildPage(fields, app_.CodePageInUse());
   UpdateGrid2();
+  MoveFocusToBody();
+}
+
+void Main::MoveFocusToBody() {
+  const QWidget* left = focusWidget();
   ui_->Text1->setFocus();
+  // When a dialog has just closed, this window is not yet the active one again and its fields are not told.
+  const bool was_link_field = left == ui_->Text5 || left == ui_->Combo1 || left == &ui_->Combo1->Field();
+  if (was_link_field && !isActiveWindow()) UpdateGrid1();
 }
 
 void Main::StoreTyped() {

@@ -72,6 +72,7 @@ class Main : public QMainWindow, public Editor {
 
  private:
   void ConnectFields();
+  void MoveFocusToBody();
   void NameSeparators();
 
   App& app_;

@@ -52,6 +52,31 @@ TEST(Global, RefusesNumbersOutsideItsArrays) {
   EXPECT_THROW(global.MusicLink(101), std::out_of_range);
 }
 
+TEST(LastPage, IsTheLastThatIsNotEmpty) {
+  Global global;
+  global.Page(1) = "x";
+  EXPECT_EQ(LastPage(global), 1);
+  global.Page(12) = "x";
+  EXPECT_EQ(LastPage(global), 12);
+  global.Page(5) = "x";
+  EXPECT_EQ(LastPage(global), 12);
+  global.Page(999) = "x";
+  EXPECT_EQ(LastPage(global), 999);
+}
+
+TEST(LastPage, IsTheFirstWithoutPages) {
+  Global global;
+  EXPECT_EQ(LastPage(global), 1);
+  global.Page(0) = global.Page(1000) = "x";
+  EXPECT_EQ(LastPage(global), 1);
+}
+
+TEST(LastPage, NeedsNoFirstPage) {
+  Global global;
+  global.Page(2) = "x";
+  EXPECT_EQ(LastPage(global), 2);
+}
+
 TEST(DocumentFile, LiesInTheProgramsFolder) {
   Global global;
   global.ProgramFolder = std::filesystem::path("/somewhere") / "Tavrel Writer";

@@ -81,16 +81,26 @@ TEST(ReplaceLimits, KeepALongTextBehindThem) {
                      Repeated(kLastPosition, "x") + tail));
 }
 
-TEST(ReplaceLimits, EndAReplacementThatHasGrownByAMillionCharacters) {
-  // The "a" in each replacement is found next. The second makes the text exactly a million longer.
-  const std::string half_million(499'999, 'c');
-  EXPECT_TRUE(IsSame(Replaced("a", "a", "ba" + half_million), "bba" + half_million + half_million));
+TEST(ReplaceLimits, EndReplacingWhenTheDocumentHasGrownByTwentyMillionCharacters) {
+  // The "a" in each replacement is found next. The second makes the text exactly 20 million longer.
+  const std::string ten_million(9'999'999, 'c');
+  EXPECT_TRUE(IsSame(Replaced("a", "a", "ba" + ten_million), "bba" + ten_million + ten_million));
 }
 
-TEST(ReplaceLimits, LetTheReplacementBeforeAMillionCharactersGoBeyondThem) {
-  // The first makes the text one character less than a million longer.
-  const std::string less(999'998, 'c');
+TEST(ReplaceLimits, LetTheReplacementBeforeTheLimitGoBeyondIt) {
+  // The first makes the text one character less than 20 million longer.
+  const std::string less(19'999'998, 'c');
   EXPECT_TRUE(IsSame(Replaced("a", "a", "ba" + less), "bba" + less + less));
+}
+
+TEST(ReplaceLimits, CountTheGrowthOfAllPages) {
+  Global global;
+  for (const int page : {1, 2, 3}) global.Page(page) = WithText("x");
+  const std::string ten_million(10'000'001, 'y');
+  ReplaceInPages(global, "x", ten_million, true, CodePage::Windows1252());
+  EXPECT_TRUE(IsSame(global.Page(1), WithText(ten_million)));
+  EXPECT_TRUE(IsSame(global.Page(2), WithText(ten_million)));
+  EXPECT_EQ(global.Page(3), WithText("x"));
 }
 
 TEST(ReplaceLimits, CountTheGrowthOfTheTextOnly) {

@@ -1,6 +1,8 @@
 #include "core/shell/messages.h"
 
 #include <gtest/gtest.h>
+#include <string>
+#include <utility>
 
 namespace tavrel::test {
 namespace {
@@ -30,6 +32,30 @@ TEST(Messages, AskBeforeTheDocumentIsLost) {
   ExpectQuestion(
       messages::ExitLosesChanges(),
       "If you exit without saving, you will lose    \r\nany changes to this project. Continue?    ");
+}
+
+TEST(Messages, AskBeforeAnImportAndTellOfItsLastPage) {
+  ExpectQuestion(messages::ImportErasesDocument(),
+                 "Importing a new document will erase the    \r\ncurrent one in memory. Continue?    ");
+  for (const auto& [page, text] : {std::pair(1, " Last page is 1. Not"),
+                                   {12, " Last page is 12. Not"},
+                                   {999, " Last page is 999. Not"}}) {
+    const std::string whole = std::string(text) +
+                              " all pages have titles    \r\n and notes, so will not show up in the page    "
+                              "\r\n table until selected.\r\n";
+    ExpectMessage(messages::ImportFinished(page), whole.c_str(), Buttons::Ok, Icon::Exclamation,
+                  "Please note...");
+  }
+}
+
+TEST(Messages, AskBeforeAFolderIsDeletedAndTellIfItCannotBe) {
+  ExpectMessage(messages::DeleteFolderQuestion("C:\\TW\\Guide"),
+                "Are you sure you want to delete...\r\nC:\\TW\\Guide", Buttons::OkCancel, Icon::Question,
+                "Please confirm");
+  ExpectMessage(messages::DeleteFolderFailed(),
+                "The folder could not be deleted because    \r\nit contains subfolders, read-only, hidden    "
+                "\r\nor system files. Delete it manually using    \r\nWindows Explorer.  \r\n",
+                Buttons::Ok, Icon::Exclamation, "Operation failed");
 }
 
 TEST(Messages, RefuseWithoutADocument) {

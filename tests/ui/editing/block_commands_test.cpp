@@ -81,7 +81,8 @@ TEST_F(BlockCommandsTest, ATargetInsideTheSourceChangesNothing) {
     Click(dialog, "Command2");
     EXPECT_TRUE(dialog.isVisible());
     EXPECT_TRUE(State.Pages == pages);
-    TypeInto(dialog, "Text3", "6\n");
+    TypeInto(dialog, "Text3", "6");
+    Click(dialog, "Command2");
     EXPECT_FALSE(dialog.isVisible());
   });
   EXPECT_EQ(State.Page(8), "<title>d</title>");

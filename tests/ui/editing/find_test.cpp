@@ -215,7 +215,10 @@ TEST_F(FindTest, ThePageBeforeAMatchThatCannotBeShownWins) {
 
 TEST_F(FindTest, KeysOpenTheDialogAndGoOn) {
   OpenDocument("Fruit.dat", kFruit);
-  Player.Expect("FindForm", [](QWidget& dialog) { TypeInto(dialog, "Text1", "apple\n"); });
+  Player.Expect("FindForm", [](QWidget& dialog) {
+    TypeInto(dialog, "Text1", "apple");
+    Click(dialog, "Command1");
+  });
   PressKey(Body(), Qt::Key_F, Qt::ControlModifier);
   ActivateWindow(Window());
   ExpectMatch(1, "Apple", 0);
@@ -229,6 +232,27 @@ TEST_F(FindTest, WithoutADocumentKeysDoNothing) {
   for (const Qt::Key key : {Qt::Key_F, Qt::Key_H}) PressKey(Window(), key, Qt::ControlModifier);
   PressKey(Window(), Qt::Key_F3);
   EXPECT_TRUE(Messages.Shown.empty());
+}
+
+TEST_F(FindTest, ALinkThatWasBeingTypedIsNotLostWhenNothingIsFound) {
+  OpenDocument("Trio.dat", kTrio);
+  for (const char* item : {"EditSearch", "EditFindNext"}) {
+    const int row = item == std::string("EditSearch") ? 1 : 2;
+    ClickRow(LinksGrid(), row);
+    TypeInto(LinkText(), "new");
+    TypeInto(LinkTarget(), "2");
+    if (row == 1) {
+      SearchFor("zzz");
+    } else {
+      Choose(item);
+    }
+    EXPECT_EQ(LinksGrid().TextMatrix(row, 0), "new");
+    EXPECT_EQ(LinksGrid().TextMatrix(row, 1), "2");
+  }
+  ClickRow(PagesGrid(), 2);
+  EXPECT_EQ(State.Page(1),
+            "<title>A</title><text>one</text><link><linktext>new</linktext><linkto>002</linkto>"
+            "<linktext>new</linktext><linkto>002</linkto></link>");
 }
 
 }  // namespace

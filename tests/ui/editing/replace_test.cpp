@@ -151,7 +151,8 @@ TEST_F(ReplaceTest, WhatFindLeftIsOffered) {
   SearchFor(" pine ");
   Player.Expect("ReplaceForm", [](QWidget& dialog) {
     EXPECT_EQ(Find<LineField>(dialog, "Text1").text(), "pine");
-    TypeInto(dialog, "Text2", "fir\n");
+    TypeInto(dialog, "Text2", "fir");
+    Click(dialog, "Command1");
   });
   PressKey(Body(), Qt::Key_H, Qt::ControlModifier);
   EXPECT_EQ(State.Page(8), "<text>fir</text>");

@@ -226,7 +226,7 @@ TEST_F(MusicEditorTest, AnotherFieldsTagIsToldToo) {
   PlayEditor([](QWidget& dialog) {
     const auto& notice = Find<QLabel>(dialog, "TagNotice");
     TypeInto(dialog, MusicField(1), "x<album>y");
-    EXPECT_EQ(notice.text(), "A music link cannot keep what follows \"<album>\" in this field.");
+    EXPECT_EQ(notice.text(), "A music link takes \"<album>\" in this field for its own markup.");
     TypeInto(dialog, MusicField(1), "x<song>y");
     EXPECT_EQ(notice.text(), "");
     Click(dialog, "Command4");

@@ -89,5 +89,16 @@ TEST_F(FieldNoticesTest, TheNoticeNamesATagThatStillStands) {
   EXPECT_EQ(TagNotice(), "A page cannot keep what follows \"</title>\" in this field.");
 }
 
+TEST_F(FieldNoticesTest, AnotherFieldsTagIsToldToo) {
+  TypeInto(Title(), "see <text>x</text>");
+  EXPECT_EQ(TagNotice(), "A page takes \"<text>\" in this field for its own markup.");
+  TypeInto(Title(), "see <title>");
+  EXPECT_EQ(TagNotice(), "");
+  TypeInto(Body(), "hear <music>");
+  EXPECT_EQ(TagNotice(), "A page takes \"<music>\" in this field for its own markup.");
+  TypeInto(Body(), "see <link>, <note> and <b>");
+  EXPECT_EQ(TagNotice(), "");
+}
+
 }  // namespace
 }  // namespace tavrel::test
