@@ -144,8 +144,9 @@ TEST_F(PointerAndFocusTest, TitleAndNoteShareThePaneFromTheFirstProjectOn) {
 
 TEST_F(PointerAndFocusTest, TheTabKeyGoesThroughTheFieldsAsTheEyeDoes) {
   PagesGrid().setFocus();
-  EXPECT_EQ(TabOrder(Window()), (std::vector<std::string>{"MSFlexGrid2", "Text3", "Text4", "Text1", "Text5",
-                                                          "Combo1", "MSFlexGrid1", "Text6", "Combo2", "Command4"}));
+  EXPECT_EQ(TabOrder(Window()),
+            (std::vector<std::string>{"MSFlexGrid2", "Text3", "Text4", "Text1", "Text5", "Combo1",
+                                      "MSFlexGrid1", "Text6", "Combo2", "Command4"}));
   EXPECT_TRUE(NamelessControls(Window()).empty());
 }
 
