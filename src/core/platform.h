@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "core/text/code_page.h"
@@ -29,8 +30,8 @@ class Platform {
   /// Whether the volume's root can be read now (a drive without a disk cannot).
   virtual bool IsReady(const Volume& volume) const = 0;
 
-  /// Whether files can be made in a folder.
-  virtual bool IsWritable(const std::filesystem::path& folder) const = 0;
+  /// Why no files can be made in a folder; no error if they can.
+  virtual std::error_code WhyNotWritable(const std::filesystem::path& folder) const = 0;
 
   /// Whether it is the volume that the system itself lies on.
   virtual bool IsSystemVolume(const Volume& volume) const = 0;

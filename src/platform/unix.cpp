@@ -109,8 +109,8 @@ class UnixPlatform final : public Platform {
     return !error;
   }
 
-  bool IsWritable(const fs::path& folder) const override {
-    return ::access(folder.c_str(), W_OK | X_OK) == 0;
+  std::error_code WhyNotWritable(const fs::path& folder) const override {
+    return Result(::access(folder.c_str(), W_OK | X_OK));
   }
 
   bool IsSystemVolume(const Volume& volume) const override { return volume.Root == "/"; }

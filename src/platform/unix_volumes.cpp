@@ -55,28 +55,42 @@ struct Mount {
 /// Whether a person would call it a disk: a device of its own outside the system's inner folders, or whatever
 /// is mounted where people mount things, such as a folder of another computer.
 bool IsDisk(const Mount& mount) {
-  constexpr std::array<std::string_view, 9> kInnerFolders = {"/boot", "/dev", "/etc", "/proc",    "/snap",
-                                                             "/sys",  "/usr", "/var", "/run/user"};
+  constexpr std::array<std::string_view, 11> kInnerFolders = {
+      "/boot", "/dev", "/efi", "/etc", "/nix", "/proc", "/run/user", "/snap", "/sys", "/usr", "/var"};
   constexpr std::array<std::string_view, 3> kMountFolders = {"/media", "/mnt", "/run/media"};
-  constexpr std::array<std::string_view, 9> kPseudoTypes = {
-      "autofs", "cgroup", "cgroup2", "devpts", "devtmpfs", "proc", "squashfs", "sysfs", "tmpfs"};
+  constexpr std::array<std::string_view, 13> kPseudoTypes = {
+      "autofs",  "cgroup", "cgroup2", "devpts",   "devtmpfs", "fuse.portal", "nsfs",
+      "overlay", "proc",   "ramfs",   "squashfs", "sysfs",    "tmpfs"};
   if (std::find(kPseudoTypes.begin(), kPseudoTypes.end(), mount.Type) != kPseudoTypes.end()) return false;
   const bool own_device = mount.Device.starts_with("/dev/") && !IsBelowAny(kInnerFolders, mount.Point);
   return own_device || IsBelowAny(kMountFolders, mount.Point);
+}
+
+/// Whether a mount shows a part of the system's own disk at another place, as sub-volumes do.
+bool IsPartOfSystem(const Mount& mount, const std::string& system_device) {
+  return mount.Device == system_device && mount.Point != "/";
+}
+
+/// A single file can be mounted over another.
+bool IsFile(const fs::path& point) {
+  std::error_code error;
+  return fs::exists(point, error) && !fs::is_directory(point, error);
 }
 
 }  // namespace
 
 std::vector<Volume> MountedVolumes(const fs::path& mount_table) {
   std::vector<Volume> volumes{{"/", "/"}};
+  std::string system_device;
   std::ifstream table(mount_table);
   for (std::string line; std::getline(table, line);) {
     std::istringstream fields(line);
     Mount mount;
     fields >> mount.Device >> mount.Point >> mount.Type;
     mount.Point = Unescaped(mount.Point);
-    if (!IsDisk(mount)) continue;
     const fs::path root = mount.Point;
+    if (root == "/") system_device = mount.Device;
+    if (!IsDisk(mount) || IsPartOfSystem(mount, system_device) || IsFile(root)) continue;
     const bool known =
         std::any_of(volumes.begin(), volumes.end(), [&](const Volume& v) { return v.Root == root; });
     if (!known) volumes.push_back({PathText(root), root});

@@ -159,6 +159,11 @@ void CopyPlainFile(FileLayer& files, const fs::path& from, const fs::path& to) {
   if (fs::is_directory(from, ignored)) {
     throw FileError(from, "could not be read", std::make_error_code(std::errc::is_a_directory));
   }
+  const fs::file_status there = fs::status(to, ignored);
+  if (fs::exists(there) && !fs::is_regular_file(there) && !fs::is_directory(there)) {
+    // Opening a pipe would wait for somebody to read from it.
+    throw FileError(to, "could not be written", std::make_error_code(std::errc::operation_not_supported));
+  }
   OpenFile source(files);
   OpenFile target(files);
   ThrowIf(files.Open(from, source.Handle()), from, "could not be read");

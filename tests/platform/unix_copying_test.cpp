@@ -104,5 +104,12 @@ TEST_F(UnixCopyingTest, FlushesAVolume) {
   EXPECT_NO_THROW(FlushVolumeOf(SystemFiles(), Folder.Path()));
 }
 
+TEST_F(UnixCopyingTest, DoesNotWaitForAPipeInTheTargetsPlace) {
+  Folder.Write("from.txt", "new");
+  ASSERT_EQ(::mkfifo(To().c_str(), 0600), 0);
+  EXPECT_THROW(Copy(), FileError);
+  EXPECT_TRUE(fs::is_fifo(To()));
+}
+
 }  // namespace
 }  // namespace tavrel::test

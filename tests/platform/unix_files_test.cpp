@@ -2,6 +2,7 @@
 #include <unistd.h>
 
 #include "platform/file_layer.h"
+#include "platform/system_platform.h"
 #include "support/temporary_folder.h"
 
 namespace tavrel::test {
@@ -92,6 +93,13 @@ TEST_F(UnixFilesTest, LeavesNoHandleOpenAfterFlushingAFolder) {
   const int after = ::dup(0);
   ::close(after);
   EXPECT_EQ(after, before);
+}
+
+TEST(UnixPlatform, SaysWhyAFolderCannotBeWrittenTo) {
+  const TemporaryFolder folder;
+  const std::unique_ptr<Platform> platform = MakeSystemPlatform();
+  EXPECT_FALSE(platform->WhyNotWritable(folder.Path()));
+  EXPECT_EQ(platform->WhyNotWritable(folder.Path() / "gone"), std::errc::no_such_file_or_directory);
 }
 
 }  // namespace

@@ -102,5 +102,30 @@ TEST(MountedVolumes, PassOverBrokenLines) {
   EXPECT_EQ(Names("\n\n   \nbroken\n/dev/sdc1 /media/IPOD vfat rw 0 0"), (NameList{"/", "/media/IPOD"}));
 }
 
+TEST(MountedVolumes, LeaveOutPartsOfTheSystemsDiskAtOtherPlaces) {
+  EXPECT_EQ(Names("/dev/sda2 / btrfs rw,subvol=/@ 0 0\n"
+                  "/dev/sda2 /home btrfs rw,subvol=/@home 0 0\n"
+                  "/dev/sda2 /.snapshots btrfs rw 0 0\n"
+                  "/dev/sda2 /media/ann/bound btrfs rw 0 0\n"
+                  "/dev/sda1 /efi vfat rw 0 0\n"
+                  "/dev/sda3 /nix/store ext4 ro 0 0\n"
+                  "/dev/sdb1 /home/ann/ipod vfat rw 0 0\n"),
+            (NameList{"/", "/home/ann/ipod"}));
+}
+
+TEST(MountedVolumes, HoldFoldersOfOtherComputersOnlyWherePeopleMountThem) {
+  EXPECT_EQ(Names("nas:/music /mnt/music nfs4 rw 0 0\n"
+                  "nas:/ann /home/ann/nas nfs4 rw 0 0\n"
+                  "none /mnt/memory ramfs rw 0 0\n"
+                  "overlay /run/media/x overlay rw 0 0\n"),
+            (NameList{"/", "/mnt/music"}));
+}
+
+TEST(MountedVolumes, LeaveOutFilesMountedOverFiles) {
+  const TemporaryFolder folder;
+  folder.Write("settings", "x");
+  EXPECT_EQ(Names("/dev/sdb1 " + (folder.Path() / "settings").string() + " ext4 rw 0 0\n"), (NameList{"/"}));
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -12,6 +12,12 @@ void FakePlatform::WritePlainFile(const std::filesystem::path& file, std::string
   tavrel::WritePlainFile(Files, file, bytes);
 }
 
+std::error_code FakePlatform::WhyNotWritable(const std::filesystem::path& folder) const {
+  if (!std::filesystem::exists(folder)) return std::make_error_code(std::errc::no_such_file_or_directory);
+  if (NotWritable.contains(folder)) return std::make_error_code(std::errc::read_only_file_system);
+  return {};
+}
+
 bool FakePlatform::IsHidden(const std::filesystem::path& file) const {
   return file.filename().string().starts_with('.');
 }

@@ -22,9 +22,7 @@ class FakePlatform final : public Platform {
   const CodePage& SystemCodePage() const override { return CodePage::Windows1252(); }
   std::vector<Volume> Volumes() const override { return FakeVolumes; }
   bool IsReady(const Volume& volume) const override { return !NotReady.contains(volume.Name); }
-  bool IsWritable(const std::filesystem::path& folder) const override {
-    return !NotWritable.contains(folder);
-  }
+  std::error_code WhyNotWritable(const std::filesystem::path& folder) const override;
   bool IsSystemVolume(const Volume& volume) const override { return volume.Name == SystemVolume; }
   bool IsHidden(const std::filesystem::path& file) const override;
   void WriteWholeFile(const std::filesystem::path& file, std::string_view bytes) override;

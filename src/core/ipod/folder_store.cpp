@@ -1,6 +1,7 @@
 #include "core/ipod/folder_store.h"
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -39,6 +40,28 @@ bool IsWriteProtected(const fs::path& file) {
   return !error && (permissions & fs::perms::owner_write) == fs::perms::none;
 }
 
+/// The files that a copy has made. A disk that does not tell letter case apart would put a second one over
+/// the first.
+class CopiedFiles {
+ public:
+  explicit CopiedFiles(const CodePage& code_page) : code_page_(code_page) {}
+
+  /// Throws FileError if the file is one of those that were made before.
+  void Add(const fs::path& file) {
+    const std::string key = code_page_.Lower(NameInCodePage(file.filename(), code_page_));
+    const auto [same_name, is_new] = files_.try_emplace(key, file);
+    std::error_code error;
+    if (is_new || !fs::equivalent(file, same_name->second, error)) return;
+    throw FileError(file,
+                    "has a name that this disk does not tell from " + PathText(same_name->second.filename()),
+                    std::make_error_code(std::errc::file_exists));
+  }
+
+ private:
+  const CodePage& code_page_;
+  std::map<std::string, fs::path> files_;
+};
+
 }  // namespace
 
 std::vector<fs::path> Subfolders(const fs::path& folder, const Platform& platform) {
@@ -66,8 +89,11 @@ void CopyFolder(const fs::path& from, const fs::path& to, Platform& platform,
   if (error) throw FileError(to, "could not be made", error);
 
   int done = 0;
+  CopiedFiles copied(platform.SystemCodePage());
   for (const fs::path& file : files) {
-    platform.CopyPlainFile(file, to / file.filename());
+    const fs::path target = to / file.filename();
+    copied.Add(target);
+    platform.CopyPlainFile(file, target);
     progress(++done, static_cast<int>(files.size()));
   }
   platform.FlushVolumeOf(to);

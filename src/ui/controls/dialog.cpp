@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "ui/controls/file_list.h"
+#include "ui/controls/folder_list.h"
 #include "ui/controls/line_field.h"
 
 namespace tavrel {
@@ -15,6 +16,7 @@ Dialog::Dialog(App& app, QWidget* parent) : QDialog(parent), app_(app) {}
 void Dialog::PrepareControls() {
   for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(false);
   for (LineField* field : findChildren<LineField*>()) field->SetCodePage(app_.CodePageInUse());
+  for (FolderList* list : findChildren<FolderList*>()) list->SetPlatform(app_.System);
   for (FileList* list : findChildren<FileList*>()) list->SetPlatform(app_.System);
   // Wrapped labels need more height in larger fonts than the form gives them.
   if (hasHeightForWidth()) resize(width(), std::max(height(), heightForWidth(width())));

@@ -20,7 +20,9 @@ std::ptrdiff_t SharedParts(const fs::path& root, const fs::path& folder) {
 }  // namespace
 
 DriveList::DriveList(QWidget* parent) : QComboBox(parent) {
-  connect(this, &QComboBox::activated, this, &DriveList::Change);
+  connect(this, &QComboBox::activated, this, [this](int index) {
+    if (std::exchange(chosen_, index) != index) emit Change();
+  });
 }
 
 void DriveList::SetVolumes(std::vector<Volume> volumes) {
@@ -34,7 +36,8 @@ void DriveList::SetDriveOf(const fs::path& folder) {
       std::max_element(volumes_.begin(), volumes_.end(), [&](const Volume& a, const Volume& b) {
         return SharedParts(a.Root, folder) < SharedParts(b.Root, folder);
       });
-  setCurrentIndex(static_cast<int>(std::distance(volumes_.begin(), closest)));
+  chosen_ = static_cast<int>(std::distance(volumes_.begin(), closest));
+  setCurrentIndex(chosen_);
 }
 
 void DriveList::wheelEvent(QWheelEvent* event) {

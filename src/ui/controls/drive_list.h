@@ -34,6 +34,7 @@ class DriveList : public QComboBox {
 
  private:
   std::vector<Volume> volumes_;
+  int chosen_ = -1;
 };
 
 }  // namespace tavrel

@@ -4,6 +4,9 @@
 
 #include <filesystem>
 #include <system_error>
+#include <vector>
+
+#include "core/platform.h"
 
 namespace tavrel {
 
@@ -15,11 +18,19 @@ class FolderList : public QListWidget {
  public:
   explicit FolderList(QWidget* parent = nullptr);
 
+  void SetPlatform(const Platform& platform) { platform_ = &platform; }
+
   /// The opened folder.
   const std::filesystem::path& Path() const { return path_; }
 
   /// Opens a folder; gives the error, with nothing changed, if it cannot be read.
   std::error_code SetPath(const std::filesystem::path& path);
+
+  /// Reads the sub-folders anew.
+  void Refresh();
+
+  /// The names of the sub-folders, in the list's order.
+  const std::vector<std::filesystem::path>& Subfolders() const { return subfolders_; }
 
  signals:
   /// The user has opened another folder.
@@ -32,10 +43,14 @@ class FolderList : public QListWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  void AddFolder(const std::filesystem::path& folder, const QString& name, int depth, bool open);
-  void Open(const QListWidgetItem* item);
+  void AddFolder(const std::filesystem::path& folder, const std::filesystem::path& name, int depth,
+                 bool open);
+  void Open(int row);
 
+  const Platform* platform_ = nullptr;
   std::filesystem::path path_;
+  std::vector<std::filesystem::path> subfolders_;
+  std::vector<std::filesystem::path> folders_;  ///< the full path of each row
 };
 
 }  // namespace tavrel

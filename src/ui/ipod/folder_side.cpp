@@ -20,11 +20,20 @@ FolderSide::FolderSide(App& app, QWidget* window, DriveList& drives, FolderList&
      });
 }
 
-void FolderSide::Show(const std::filesystem::path& folder) {
+bool FolderSide::Show(const std::filesystem::path& folder) {
   drives_.SetVolumes(app_.System.Volumes());
   drives_.SetDriveOf(folder);
-  folders_.SetPath(folder);
+  if (folders_.SetPath(folder)) return false;
   files_.SetPath(folder);
+  return true;
+}
+
+void FolderSide::Refresh() {
+  folders_.Refresh();
+}
+
+const std::vector<std::filesystem::path>& FolderSide::Subfolders() const {
+  return folders_.Subfolders();
 }
 
 const std::filesystem::path& FolderSide::Folder() const {

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "ui/app.h"
 
@@ -18,12 +19,16 @@ class FolderSide {
  public:
   FolderSide(App& app, QWidget* window, DriveList& drives, FolderList& folders, FileList& files);
 
-  /// Shows a folder in all three lists, with the drives that there are now. Of a folder that cannot be read
-  /// nothing is shown.
-  void Show(const std::filesystem::path& folder);
+  /// Shows a folder in all three lists, with the drives that there are now. False if it cannot be read.
+  bool Show(const std::filesystem::path& folder);
+
+  /// Reads the folder's sub-folders anew.
+  void Refresh();
 
   /// The folder shown.
   const std::filesystem::path& Folder() const;
+  /// The names of its sub-folders, in the list's order.
+  const std::vector<std::filesystem::path>& Subfolders() const;
 
   /// The user has chosen another drive: goes to its root. If that cannot be read, says so and goes back.
   void ChangeDrive();

@@ -43,9 +43,9 @@ Manage::Manage(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_u
   ui_->setupUi(this);
   PrepareControls();
   local_ = std::unique_ptr<Side>(
-      new Side{FolderSide(app_, this, *ui_->Drive1, *ui_->Dir1, *ui_->File1), *ui_->List1, {}});
+      new Side{FolderSide(app_, this, *ui_->Drive1, *ui_->Dir1, *ui_->File1), *ui_->List1});
   remote_ = std::unique_ptr<Side>(
-      new Side{FolderSide(app_, this, *ui_->Drive2, *ui_->Dir2, *ui_->File2), *ui_->List2, {}});
+      new Side{FolderSide(app_, this, *ui_->Drive2, *ui_->Dir2, *ui_->File2), *ui_->List2});
   ConnectControls();
   Form_Load();
 }
@@ -74,15 +74,19 @@ void Manage::Form_Load() {
 }
 
 void Manage::FindPod() {
-  if (const std::optional<Pod> pod = tavrel::FindPod(app_.System, app_.System.Volumes())) {
-    remote_->Browser.Show(pod->Notes);
-    ui_->Label1_1->setText(" iPod folders: ");
-    ui_->SSTab1->setCurrentWidget(ui_->ManagerTab);
+  const std::optional<Pod> pod = tavrel::FindPod(app_.System, app_.System.Volumes());
+  if (pod && remote_->Browser.Show(pod->Notes)) {
+    ShowRemote(" iPod folders: ", *ui_->ManagerTab);
   } else {
     remote_->Browser.Show(SystemRoot(app_.System));
-    ui_->Label1_1->setText(" Remote folders:");
-    ui_->SSTab1->setCurrentWidget(ui_->BrowserTab);
+    ShowRemote(" Remote folders:", *ui_->BrowserTab);
   }
+}
+
+void Manage::ShowRemote(const QString& caption, QWidget& tab) {
+  ui_->Label1_1->setText(caption);
+  ui_->List2->setAccessibleName(caption.trimmed().chopped(1));
+  ui_->SSTab1->setCurrentWidget(&tab);
 }
 
 void Manage::RefreshFolders() {
@@ -91,9 +95,9 @@ void Manage::RefreshFolders() {
 }
 
 void Manage::Refresh(Side& side) {
-  side.Names = Subfolders(side.Browser.Folder(), app_.System);
+  side.Browser.Refresh();
   side.Projects.clear();
-  for (const fs::path& name : side.Names) side.Projects.addItem(ToText(name));
+  for (const fs::path& name : side.Browser.Subfolders()) side.Projects.addItem(ToText(name));
 }
 
 void Manage::Command1_Click() {
@@ -139,9 +143,10 @@ void Manage::Dir2_Change() {
 void Manage::Copy(const Side& from, const Side& to) {
   const std::optional<std::size_t> row = SelectedRow(from.Projects);
   if (!row) return;
-  const fs::path& name = from.Names.at(*row);
+  const fs::path& name = from.Browser.Subfolders().at(*row);
   const fs::path target = to.Browser.Folder() / name;
-  if (!IsWritable(fs::exists(target) ? target : to.Browser.Folder())) return;
+  std::error_code error;
+  if (!IsWritable(fs::is_directory(target, error) ? target : to.Browser.Folder())) return;
   const Hourglass hourglass;
   CopyFolder(from.Browser.Folder() / name, target, app_.System,
              [this](int done, int all) { ui_->Progress->Tell(done, all); });
@@ -150,10 +155,12 @@ void Manage::Copy(const Side& from, const Side& to) {
   ui_->Progress->hide();
 }
 
-/// Says so if nothing can be written to a folder, before a copy ends the program half way.
+/// Says so if nothing can be written to a folder, before a copy ends the program half way. A folder that has
+/// gone is left to the copy.
 bool Manage::IsWritable(const fs::path& folder) {
-  if (app_.System.IsWritable(folder)) return true;
-  const FileError problem(folder, "cannot be written to", std::make_error_code(std::errc::permission_denied));
+  const std::error_code error = app_.System.WhyNotWritable(folder);
+  if (!error || error == std::errc::no_such_file_or_directory) return true;
+  const FileError problem(folder, "cannot be written to", error);
   app_.Messages.Show(this, {problem.what(), Buttons::Ok, Icon::Exclamation, windowTitle().toStdString()});
   return false;
 }
@@ -162,7 +169,7 @@ void Manage::Delete(const Side& side) {
   const std::optional<std::size_t> row = SelectedRow(side.Projects);
   if (!row) return;
   const fs::path& parent = side.Browser.Folder();
-  const fs::path& name = side.Names.at(*row);
+  const fs::path& name = side.Browser.Subfolders().at(*row);
   const std::string shown_path =
       PathText(parent) + static_cast<char>(fs::path::preferred_separator) + PathText(name);
   if (!app_.Messages.Show(this, messages::DeleteFolderQuestion(shown_path))) return;

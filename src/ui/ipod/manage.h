@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <memory>
-#include <vector>
 
 #include "ui/controls/dialog.h"
 #include "ui/ipod/folder_side.h"
@@ -46,13 +45,13 @@ class Manage : public Dialog {
   struct Side {
     FolderSide Browser;
     QListWidget& Projects;
-    std::vector<std::filesystem::path> Names;  ///< of the projects, in the list's order
   };
 
   void ConnectControls();
   void FindPod();
   void RefreshFolders();
   void Refresh(Side& side);
+  void ShowRemote(const QString& caption, QWidget& tab);
   void Copy(const Side& from, const Side& to);
   bool IsWritable(const std::filesystem::path& folder);
   void Delete(const Side& side);

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include "core/ipod/folder_store.h"
+#include "core/text/run_time_error.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 
@@ -115,6 +116,25 @@ TEST_F(FolderLinksTest, CopyAndDeletePassByWhatIsNoFile) {
   EXPECT_EQ(Folder.Files(), expected);
   EXPECT_FALSE(Delete());
   EXPECT_FALSE(Folder.Has("projects/Guide/z001.txt"));
+}
+
+TEST_F(FolderLinksTest, ADiskThatTakesTwoNamesForOneFileLosesNeither) {
+  // A hard link behaves as a disk that does not tell letter case apart.
+  Folder.Write("projects/Guide/a.txt", "small");
+  Folder.Write("projects/Guide/A.txt", "capital");
+  Folder.Write("disk/Guide/a.txt", "old");
+  fs::create_hard_link(Folder.Path() / "disk/Guide/a.txt", Folder.Path() / "disk/Guide/A.txt");
+  EXPECT_THAT([&] { CopyFolder(Guide(), Folder.Path() / "disk/Guide", System, [](int, int) {}); },
+              testing::ThrowsMessage<FileError>(testing::HasSubstr("a.txt")));
+  EXPECT_EQ(Folder.Read("disk/Guide/a.txt"), "capital");
+}
+
+TEST_F(FolderLinksTest, NamesThatDifferOnlyInCaseAreCopiedWhereTheyAreTwoFiles) {
+  Folder.Write("projects/Guide/a.txt", "small");
+  Folder.Write("projects/Guide/A.txt", "capital");
+  CopyFolder(Guide(), Folder.Path() / "copy", System, [](int, int) {});
+  EXPECT_EQ(Folder.Read("copy/a.txt"), "small");
+  EXPECT_EQ(Folder.Read("copy/A.txt"), "capital");
 }
 
 }  // namespace

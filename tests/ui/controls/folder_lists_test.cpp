@@ -31,10 +31,12 @@ class FolderListsTest : public testing::Test {
   }
 
   TemporaryFolder folder_;
+  FakePlatform platform_;
 };
 
 TEST_F(FolderListsTest, AFolderIsShownBelowThoseAboveItAndAboveItsSubFolders) {
   FolderList list;
+  list.SetPlatform(platform_);
   ASSERT_FALSE(list.SetPath(folder_.Path()));
   const QStringList rows = Rows(list);
   EXPECT_EQ(rows.first(), "/");
@@ -44,6 +46,7 @@ TEST_F(FolderListsTest, AFolderIsShownBelowThoseAboveItAndAboveItsSubFolders) {
 
 TEST_F(FolderListsTest, ADoubleClickOpensAndAClickOnlyHighlights) {
   FolderList list;
+  list.SetPlatform(platform_);
   list.SetPath(folder_.Path());
   list.show();
   int changes = 0;
@@ -60,6 +63,7 @@ TEST_F(FolderListsTest, ADoubleClickOpensAndAClickOnlyHighlights) {
 
 TEST_F(FolderListsTest, EnterOpensTheHighlightedFolder) {
   FolderList list;
+  list.SetPlatform(platform_);
   list.SetPath(folder_.Path() / "b");
   PressKey(list, Qt::Key_Down);
   PressKey(list, Qt::Key_Return);
@@ -68,6 +72,7 @@ TEST_F(FolderListsTest, EnterOpensTheHighlightedFolder) {
 
 TEST_F(FolderListsTest, AFolderThatCannotBeReadChangesNothing) {
   FolderList list;
+  list.SetPlatform(platform_);
   list.SetPath(folder_.Path());
   const QStringList rows = Rows(list);
   EXPECT_TRUE(list.SetPath(folder_.Path() / "missing"));
@@ -77,9 +82,8 @@ TEST_F(FolderListsTest, AFolderThatCannotBeReadChangesNothing) {
 }
 
 TEST_F(FolderListsTest, FilesAreListedInAlphabeticalOrderWithoutHiddenOnes) {
-  const FakePlatform platform;
   FileList list;
-  list.SetPlatform(platform);
+  list.SetPlatform(platform_);
   list.SetPath(folder_.Path());
   EXPECT_EQ(Rows(list), (QStringList{"One.txt", "three.dat", "two.TXT"}));
   list.SetExtension(".txt");
@@ -109,6 +113,34 @@ TEST_F(FolderListsTest, OnlyAChoiceOfTheUserIsAChange) {
   PressKey(list, Qt::Key_Up);
   EXPECT_EQ(changes, 1);
   EXPECT_EQ(list.Drive().Name, "/");
+}
+
+TEST_F(FolderListsTest, ChoosingTheSameDriveAgainIsNoChange) {
+  DriveList list;
+  int changes = 0;
+  QObject::connect(&list, &DriveList::Change, [&] { ++changes; });
+  list.SetVolumes({{"/", "/"}, {"stick", folder_.Path()}});
+  list.SetDriveOf(folder_.Path());
+  emit list.activated(1);
+  EXPECT_EQ(changes, 0);
+  emit list.activated(0);
+  EXPECT_EQ(changes, 1);
+  emit list.activated(0);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(FolderListsTest, ARefreshShowsNewFoldersAndKeepsTheOpenedOne) {
+  FolderList list;
+  list.SetPlatform(platform_);
+  ASSERT_FALSE(list.SetPath(folder_.Path() / "b"));
+  folder_.Write("b/another/z.txt", "");
+  list.Refresh();
+  EXPECT_EQ(list.Subfolders(), (std::vector<std::filesystem::path>{"another", "inner"}));
+  EXPECT_EQ(Rows(list).mid(list.count() - 3), (QStringList{"b", "another", "inner"}));
+  EXPECT_EQ(list.Path(), folder_.Path() / "b");
+  std::filesystem::remove_all(folder_.Path() / "b");
+  list.Refresh();
+  EXPECT_EQ(list.Path(), folder_.Path() / "b");
 }
 
 }  // namespace

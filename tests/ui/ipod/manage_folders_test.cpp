@@ -222,6 +222,19 @@ TEST_F(ManageFoldersTest, TheSameFolderOnBothSidesIsNotDamaged) {
   ExpectQuiet();
 }
 
+TEST_F(ManageFoldersTest, TheBrowserShowsWhatWasCopiedAndDeleted) {
+  Folder.Write("Guide/z001.txt", "one");
+  Disks.Write("E/Notes/Songs/z001.txt", "one");
+  PlayManage([this](QWidget& dialog) {
+    ClickFor(dialog, "List1", "Guide", "Command2");
+    ClickFor(dialog, "List2", "Songs", "Command6");
+    const auto& remote = Find<FolderList>(dialog, "Dir2");
+    EXPECT_EQ(remote.Subfolders(), (std::vector<std::filesystem::path>{"Guide"}));
+    EXPECT_EQ(remote.item(remote.count() - 1)->text().trimmed(), "Guide");
+  });
+  ExpectQuiet();
+}
+
 TEST_F(ManageFoldersTest, APlaceThatCannotBeWrittenToIsNamedAndNothingIsCopied) {
   Folder.Write("Guide/z001.txt", "one");
   Disks.Write("E/Notes/Songs/z001.txt", "one");

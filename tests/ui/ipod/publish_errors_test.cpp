@@ -148,7 +148,9 @@ class WatchingPlatform final : public Platform {
     Shapes.push_back(cursor == nullptr ? Qt::ArrowCursor : cursor->shape());
     platform_.WritePlainFile(file, bytes);
   }
-  bool IsWritable(const std::filesystem::path& folder) const override { return platform_.IsWritable(folder); }
+  std::error_code WhyNotWritable(const std::filesystem::path& folder) const override {
+    return platform_.WhyNotWritable(folder);
+  }
   bool IsSystemVolume(const Volume& volume) const override { return platform_.IsSystemVolume(volume); }
   bool IsHidden(const std::filesystem::path& file) const override { return platform_.IsHidden(file); }
   void CopyPlainFile(const std::filesystem::path& from, const std::filesystem::path& to) override {
