@@ -225,7 +225,7 @@ TEST_F(ManageFoldersTest, TheSameFolderOnBothSidesIsNotDamaged) {
 TEST_F(ManageFoldersTest, TheBrowserShowsWhatWasCopiedAndDeleted) {
   Folder.Write("Guide/z001.txt", "one");
   Disks.Write("E/Notes/Songs/z001.txt", "one");
-  PlayManage([this](QWidget& dialog) {
+  PlayManage([](QWidget& dialog) {
     ClickFor(dialog, "List1", "Guide", "Command2");
     ClickFor(dialog, "List2", "Songs", "Command6");
     const auto& remote = Find<FolderList>(dialog, "Dir2");
