@@ -1,5 +1,7 @@
 #include "core/ipod/anchor_cutter.h"
 
+#include <algorithm>
+
 #include "core/text/run_time_error.h"
 
 namespace tavrel {
@@ -8,6 +10,10 @@ namespace {
 constexpr std::string_view kOpening = "<a href=";
 constexpr std::string_view kClosing = "</a>";
 constexpr auto kNotFound = std::string_view::npos;
+
+[[noreturn]] void ThrowUnclosed() {
+  throw RunTimeError("The target of a link has no closing quote.");
+}
 
 }  // namespace
 
@@ -28,22 +34,38 @@ bool AnchorCutter::PassThroughOpening() {
 
 std::string AnchorCutter::TakeTarget() {
   constexpr char kQuote = '"';
+  if (ahead_at_ == ahead_.size()) return TakeTargetOfNote();
   Take();  // the opening quote
   std::string target;
   for (std::optional<char> c = Take(); c != kQuote; c = Take()) {
-    if (!c) throw RunTimeError("The target of a link has no closing quote.");
+    if (!c) ThrowUnclosed();
     target += *c;
   }
   Take();  // the bracket behind the closing quote
   return target;
 }
 
+/// The same where nothing has been read ahead, as in nearly all notes.
+std::string AnchorCutter::TakeTargetOfNote() {
+  const std::size_t start = std::min(at_ + 1, note_.size());
+  const std::size_t quote = note_.find('"', start);
+  if (quote == kNotFound) ThrowUnclosed();
+  at_ = std::min(quote + 2, note_.size());
+  return std::string(note_.substr(start, quote - start));
+}
+
 void AnchorCutter::CutClosing() {
   while (true) {
     const std::size_t bracket = note_.find(kClosing.back(), at_);
     if (bracket == kNotFound) throw RunTimeError("A link has no </a> at its end.");
-    ahead_.append(note_, at_, bracket + 1 - at_);
+    const std::string_view part = note_.substr(at_, bracket + 1 - at_);
     at_ = bracket + 1;
+    if (ahead_.empty() && part.ends_with(kClosing) && part.find(kOpening.back()) == kNotFound) {
+      // No anchor begins within this one: its text need not be looked at again.
+      passed_ += part.substr(0, part.size() - kClosing.size());
+      return;
+    }
+    ahead_ += part;
     if (std::string_view(ahead_).substr(ahead_at_).ends_with(kClosing)) break;
   }
   ahead_.resize(ahead_.size() - kClosing.size());

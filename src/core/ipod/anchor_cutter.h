@@ -11,7 +11,7 @@ namespace tavrel {
 /// must outlive the pass.
 class AnchorCutter {
  public:
-  explicit AnchorCutter(std::string_view note) : note_(note) {}
+  explicit AnchorCutter(std::string_view note) : note_(note) { passed_.reserve(note.size()); }
 
   /// Takes the next anchor out and gives its target; nothing if there is none, and then the text is complete.
   /// Throws RunTimeError if the anchor has no closing quote or no "</a>".
@@ -23,6 +23,7 @@ class AnchorCutter {
  private:
   bool PassThroughOpening();
   std::string TakeTarget();
+  std::string TakeTargetOfNote();
   void CutClosing();
   bool PassThrough(char last);
   std::optional<char> Take();

@@ -19,6 +19,25 @@ namespace fs = std::filesystem;
 constexpr auto kNotFound = std::string_view::npos;
 constexpr int kLastRecord = kLastPage + 1;
 
+/// Finds one byte again and again, each time only as far as the next one.
+class NextByte {
+ public:
+  NextByte(std::string_view text, char byte) : text_(text), byte_(byte), place_(Find(0)) {}
+
+  /// Its first place from `at` on, the text's size without any. `at` must not go back.
+  std::size_t From(std::size_t at) {
+    if (place_ < at) place_ = Find(at);
+    return place_;
+  }
+
+ private:
+  std::size_t Find(std::size_t at) const { return std::min(text_.find(byte_, at), text_.size()); }
+
+  std::string_view text_;
+  char byte_;
+  std::size_t place_;
+};
+
 void ReplaceAll(std::string& text, std::string_view wanted, std::string_view replacement) {
   std::size_t found = text.find(wanted);
   if (found == kNotFound) return;
@@ -51,7 +70,18 @@ void CutMeta(std::string& note) {
   if (end != kNotFound) note.erase(opening, end + 1 - opening);
 }
 
+/// Whether a text holds anything that looks like the markup to convert; anchors do not.
+bool MayHoldMarkup(std::string_view note) {
+  for (std::size_t at = note.find('<'); at != kNotFound; at = note.find('<', at + 1)) {
+    std::string_view name = note.substr(at + 1);
+    if (name.starts_with('/')) name.remove_prefix(1);
+    if (name.starts_with('b') || name.starts_with('p')) return true;
+  }
+  return false;
+}
+
 void ConvertMarkup(std::string& note) {
+  if (!MayHoldMarkup(note)) return;
   ReplaceAll(note, "<br>", kLineEnd);
   ReplaceAll(note, "<p>", kLineEnd);
   for (const char* tag : {"</p>", "<body>", "</body>"}) ReplaceAll(note, tag, "");
@@ -92,12 +122,15 @@ std::string MusicRecord(std::string_view address) {
 
 NoteReader::NoteReader(Global& global, const std::vector<std::string>& names, const CodePage& code_page)
     : global_(global), code_page_(code_page) {
-  for (std::size_t i = 0; i < names.size(); ++i) positions_[names[i]] = i + 1;
+  int page = 0;
+  for (const std::string& name : names) page_numbers_[name] = FormatPage(++page);
 }
 
 void NoteReader::ProcessInput(std::string_view note, int page) {
   if (page > kLastRecord) throw RunTimeError("The folder holds more notes than a project has pages.");
-  std::string content = " " + std::string(note) + " ";
+  std::string content;
+  content.reserve(note.size() + 2);
+  content.append(" ").append(note).append(" ");
   std::string record = CutTitle(content);
   ConvertMarkup(content);
   CutMeta(content);
@@ -105,17 +138,19 @@ void NoteReader::ProcessInput(std::string_view note, int page) {
   std::string links;
   AnchorCutter anchors(content);
   while (const std::optional<std::string> target = anchors.CutNext()) {
-    AppendTag(links, "<linktext>", "");
+    links.append("<linktext></linktext>");
     AppendTag(links, "<linkto>", IsMusicAddress(*target) ? ProcessMusic(*target) : ProcessLink(*target));
   }
+  constexpr std::size_t kTags = 32;
+  record.reserve(record.size() + anchors.Text().size() + links.size() + kTags);
   AppendTag(record, "<text>", anchors.Text());
   AppendTag(record, "<link>", links);
   global_.Page(page) = std::move(record);
 }
 
 std::string NoteReader::ProcessLink(const std::string& target) const {
-  const auto position = positions_.find(target);
-  return FormatPage(position == positions_.end() ? 1 : static_cast<int>(position->second));
+  const auto number = page_numbers_.find(target);
+  return number == page_numbers_.end() ? FormatPage(1) : number->second;
 }
 
 std::string NoteReader::ProcessMusic(std::string_view target) {
@@ -132,9 +167,11 @@ std::string NoteReader::ProcessMusic(std::string_view target) {
 std::string NoteLines(std::string_view bytes) {
   std::string lines;
   lines.reserve(bytes.size() + bytes.size() / 16 + kLineEnd.size());
+  NextByte carriage_return(bytes, '\r');
+  NextByte line_feed(bytes, '\n');
   std::size_t at = 0;
   while (at < bytes.size()) {
-    const std::size_t end = std::min(bytes.find_first_of(kLineEnd, at), bytes.size());
+    const std::size_t end = std::min(carriage_return.From(at), line_feed.From(at));
     lines.append(bytes, at, end - at).append(kLineEnd);
     at = bytes.substr(end).starts_with(kLineEnd) ? end + kLineEnd.size() : end + 1;
   }

@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "core/document/global.h"
@@ -34,7 +35,7 @@ class NoteReader {
  private:
   Global& global_;
   const CodePage& code_page_;
-  std::map<std::string, std::size_t> positions_;
+  std::unordered_map<std::string, std::string> page_numbers_;  ///< as links name them, by note
   std::map<std::string, int> music_links_;
 };
 

@@ -36,11 +36,10 @@ std::string ReadWholeFile(const fs::path& file) {
   errno = 0;
   const OpenedFile opened = OpenForReading(file);
   if (!opened) ThrowUnreadable(file, errno);
-  std::error_code error;
-  if (fs::is_directory(file, error)) ThrowUnreadable(file, EISDIR);
-
   // The size is only where to begin: the file may grow or shrink while it is read.
+  std::error_code error;
   const std::uintmax_t size = fs::file_size(file, error);
+  if (error == std::errc::is_a_directory) ThrowUnreadable(file, EISDIR);
   std::string bytes(error ? 1 : static_cast<std::size_t>(size), '\0');
   std::setvbuf(opened.get(), nullptr, _IONBF, 0);
   std::size_t length = 0;
