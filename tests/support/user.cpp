@@ -72,6 +72,13 @@ std::string NamesBelow(const QObject& parent) {
   return names.toStdString();
 }
 
+QWidget& TopWindow(const QString& name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == name) return *window;
+  }
+  throw std::runtime_error("no window '" + name.toStdString() + "'");
+}
+
 void Click(QWidget& widget) {
   QTest::mouseClick(&widget, Qt::LeftButton);
 }

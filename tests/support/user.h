@@ -32,6 +32,9 @@ Child& Find(const QObject& parent, const QString& name) {
   throw std::runtime_error("no '" + name.toStdString() + "' in: " + NamesBelow(parent));
 }
 
+/// The window with this object name that stands by itself, shown or hidden; throws if there is none.
+QWidget& TopWindow(const QString& name);
+
 void Click(QWidget& widget);
 /// Clicks the child with this name.
 void Click(const QWidget& window, const QString& name);

@@ -55,7 +55,11 @@ bool Tour::Play() {
   InsertAPage();
   FindAndReplace();
   MoveBlocks();
+  FillThePlanner();
+  SaveAndLoadThePlan();
+  InsertThePlan();
   SaveProject();
+  BackUpAndRestore();
   PublishProject();
   CopyToTheIpod();
   SaveUnderAnotherName();

@@ -15,7 +15,7 @@
 
 namespace tavrel::test {
 
-/// A whole job in the real windows: a project is made, written, changed, saved, published, copied to a
+/// A whole job in the real windows: a project is made, written, changed, planned, saved, backed up, published, copied to a
 /// pretend iPod and imported back.
 class Tour {
  public:
@@ -33,7 +33,11 @@ class Tour {
   void InsertAPage();
   void FindAndReplace();
   void MoveBlocks();
+  void FillThePlanner();
+  void SaveAndLoadThePlan();
+  void InsertThePlan();
   void SaveProject();
+  void BackUpAndRestore();
   void PublishProject();
   void CopyToTheIpod();
   void SaveUnderAnotherName();

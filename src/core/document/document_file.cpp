@@ -9,41 +9,14 @@
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
+#include "core/text/stored_lines.h"
 #include "core/text/text_files.h"
 
 namespace tavrel {
 namespace {
 
-constexpr std::string_view kStoredLineBreak = "<p>";
 constexpr int kLastStoredMusicLink = 99;
 constexpr int kLastReadPage = 1000;
-
-std::string WithLineBreaks(std::string_view text) {
-  std::string result;
-  result.reserve(text.size());
-  std::size_t copied = 0;
-  for (std::size_t at = text.find(kStoredLineBreak); at != std::string_view::npos;
-       at = text.find(kStoredLineBreak, copied)) {
-    result.append(text.substr(copied, at - copied)).append(kLineEnd);
-    copied = at + kStoredLineBreak.size();
-  }
-  return result.append(text.substr(copied));
-}
-
-/// A page record on one line. Line breaks are CR LF; a lone LF, which would break the line, counts as one.
-std::string OnOneLine(std::string_view record) {
-  std::string line;
-  line.reserve(record.size());
-  for (std::size_t at = 0; at < record.size();) {
-    const std::size_t feed = record.find('\n', at);
-    line.append(record.substr(at, feed - at));
-    if (feed == std::string_view::npos) break;
-    if (feed > at && line.ends_with('\r')) line.pop_back();
-    line.append(kStoredLineBreak);
-    at = feed + 1;
-  }
-  return line;
-}
 
 void AppendLine(std::string& text, int index, std::string_view record) {
   text.append(PrintForm(index)).append(",").append(record).append(kLineEnd);

@@ -79,6 +79,12 @@ Message DeleteFolderFailed() {
       Buttons::Ok, Icon::Exclamation, "Operation failed"};
 }
 
+Message PlanOverwritesPages(int top) {
+  // The upper number is one more than the last page, and stays so.
+  return {"Overwrite pages" + SignedText(top) + " to" + SignedText(top + 25) + "?    ", Buttons::OkCancel,
+          Icon::Question, "Save"};
+}
+
 Message PublishFinished() {
   return {"Finished...    ", Buttons::Ok, Icon::Information, "Publish"};
 }

@@ -35,6 +35,8 @@ Message ImportErasesDocument();
 Message ImportFinished(int last_page);
 Message DeleteFolderQuestion(std::string_view path);
 Message DeleteFolderFailed();
+/// `top` is the number of the first page that would be overwritten.
+Message PlanOverwritesPages(int top);
 Message PublishFinished();
 Message DriveNotAvailable(std::string_view drive);
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/text/field_reader.h"
 #include "core/text/numbers.h"
 #include "core/text/run_time_error.h"
 #include "core/text/text_files.h"
@@ -17,30 +18,6 @@ constexpr std::size_t kSkinFlag = 10;
 std::filesystem::path SettingsFile(const Global& global) {
   return global.ProgramFolder / "tavrel.ini";
 }
-
-/// Reads fields that end at a comma or at the end of a line; a field in double quotes loses them.
-class FieldReader {
- public:
-  explicit FieldReader(std::string_view text) : lines_(text) {}
-
-  bool AtEnd() const { return !in_line_ && lines_.AtEnd(); }
-
-  std::string_view Next() {
-    if (!in_line_) line_ = lines_.Next();
-    const std::size_t closing_quote = line_.starts_with('"') ? line_.find('"', 1) : std::string_view::npos;
-    const bool quoted = closing_quote != std::string_view::npos;
-    const std::size_t comma = line_.find(',', quoted ? closing_quote : 0);
-    const std::string_view field = quoted ? line_.substr(1, closing_quote - 1) : line_.substr(0, comma);
-    in_line_ = comma != std::string_view::npos;
-    if (in_line_) line_.remove_prefix(comma + 1);
-    return field;
-  }
-
- private:
-  LineReader lines_;
-  std::string_view line_;
-  bool in_line_ = false;
-};
 
 }  // namespace
 
@@ -56,7 +33,7 @@ void LoadSettings(Global& global, Platform& platform) {
       throw RunTimeError(PathText(file) + "\nends before its twentieth line.\n" +
                          "Repair it in a text editor, or delete it to start with the defaults.");
     }
-    global.Settings[entry] = fields.Next();
+    global.Settings[entry] = fields.NextField();
   }
   global.UseSkin = Value(global.Settings[kSkinFlag]) != 0;
 }

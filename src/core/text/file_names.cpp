@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kEntryNameLength = 25;
 constexpr std::size_t kExtensionLength = 4;
 
 std::tm LocalTime(fs::file_time_type time) {
@@ -100,8 +99,8 @@ std::vector<FolderFile> ListFiles(const fs::path& folder, std::string_view exten
 }
 
 std::string FileListEntry(std::string_view name, const std::tm& modified) {
-  std::string entry(name.substr(0, kEntryNameLength));
-  entry.resize(kEntryNameLength, ' ');
+  std::string entry(name.substr(0, kListedNameLength));
+  entry.resize(kListedNameLength, ' ');
   std::array<char, 16> date{};
   const std::size_t length = std::strftime(date.data(), date.size(), "%d-%m-%y", &modified);
   return entry.append(date.data(), length);

@@ -37,6 +37,9 @@ struct FolderFile {
 std::vector<FolderFile> ListFiles(const std::filesystem::path& folder, std::string_view extension,
                                   const CodePage& code_page);
 
+/// File lists show so many characters of a name.
+inline constexpr std::size_t kListedNameLength = 25;
+
 /// A line of a file list: the name padded with blanks or cut to 25 characters, then the date as dd-mm-yy.
 std::string FileListEntry(std::string_view name, const std::tm& modified);
 

@@ -51,9 +51,15 @@ double ExtremeValue(std::string_view number) {
   return value;
 }
 
+double ParseUnsigned(std::string_view number) {
+  double value = 0;
+  const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
+  return parsed.ec == std::errc::result_out_of_range ? ExtremeValue(number) : value;
+}
+
 }  // namespace
 
-std::string FormatPage(int number) {
+std::string FormatPage(std::int64_t number) {
   constexpr std::size_t kLeastDigits = 3;
   std::string digits = std::to_string(std::abs(number));
   if (digits.size() < kLeastDigits) digits.insert(0, kLeastDigits - digits.size(), '0');
@@ -66,14 +72,16 @@ std::string MusicLinkName(int number) {
 
 double Value(std::string_view text) {
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
-  const bool negative = !text.empty() && text.front() == '-';
-  if (IsSignAt(text, 0)) text.remove_prefix(1);
-  text = text.substr(0, NumberLength(text));
+  const std::size_t sign = IsSignAt(text, 0) ? 1 : 0;
+  const double value = ParseUnsigned(text.substr(sign, NumberLength(text.substr(sign))));
+  return text.starts_with('-') ? -value : value;
+}
 
-  double value = 0;
-  const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (parsed.ec == std::errc::result_out_of_range) value = ExtremeValue(text);
-  return negative ? -value : value;
+std::optional<double> NumberIn(std::string_view text) {
+  const std::string_view number = TrimBlanks(text);
+  const std::string_view digits = number.substr(IsSignAt(number, 0) ? 1 : 0);
+  if (digits.empty() || NumberLength(digits) != digits.size()) return std::nullopt;
+  return Value(number);
 }
 
 std::int32_t WholeValue(std::string_view text) {

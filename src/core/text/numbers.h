@@ -1,13 +1,14 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tavrel {
 
 /// A page number as people see it: at least three digits with leading zeros (7 is "007", 1000 is "1000").
-std::string FormatPage(int number);
+std::string FormatPage(std::int64_t number);
 
 /// A music link's name: the letter M and the number without leading zeros ("M7").
 std::string MusicLinkName(int number);
@@ -19,6 +20,9 @@ double Value(std::string_view text);
 /// Value() rounded to the nearest whole number (a half goes to the even one); numbers beyond 32 bits give
 /// the nearest bound.
 std::int32_t WholeValue(std::string_view text);
+
+/// The number that a text consists of, blanks around it allowed; nothing if it is anything else.
+std::optional<double> NumberIn(std::string_view text);
 
 /// The number that a text consists of: digits, with blanks around them allowed. Anything else counts as 0;
 /// numbers beyond 32 bits give the largest one.

@@ -2,8 +2,10 @@
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMetaMethod>
 #include <QMimeData>
 #include <QTextBlock>
+#include <QToolTip>
 
 #include <algorithm>
 #include <memory>
@@ -123,7 +125,7 @@ void BodyField::inputMethodEvent(QInputMethodEvent* event) {
   QInputMethodEvent fitted_event(event->preeditString(), event->attributes());
   fitted_event.setCommitString(fitted.Text, event->replacementStart(), event->replacementLength());
   QPlainTextEdit::inputMethodEvent(&fitted_event);
-  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+  TellReplaced(fitted.Replaced);
 }
 
 void BodyField::insertFromMimeData(const QMimeData* source) {
@@ -146,7 +148,16 @@ void BodyField::ReplaceSelection(const QString& text) {
   textCursor().insertText(fitted.Text);
   if (HasEndlessWord(textCursor().block().text())) setWordWrapMode(QTextOption::WrapAnywhere);
   ensureCursorVisible();
-  if (fitted.Replaced > 0) emit CharactersReplaced(fitted.Replaced);
+  TellReplaced(fitted.Replaced);
+}
+
+void BodyField::TellReplaced(int count) {
+  if (count == 0) return;
+  if (isSignalConnected(QMetaMethod::fromSignal(&BodyField::CharactersReplaced))) {
+    emit CharactersReplaced(count);
+  } else {
+    QToolTip::showText(mapToGlobal(rect().bottomLeft()), ReplacedNotice(count), this);
+  }
 }
 
 }  // namespace tavrel

@@ -36,7 +36,7 @@ class BodyField : public QPlainTextEdit {
   void ReplaceSelection(const QString& text);
 
  signals:
-  /// Characters that the code page does not hold became "?".
+  /// Characters that the code page does not hold became "?". If nobody listens, the field tells it itself.
   void CharactersReplaced(int count);
 
  protected:
@@ -48,6 +48,7 @@ class BodyField : public QPlainTextEdit {
 
  private:
   int CursorPosition(std::size_t byte) const;
+  void TellReplaced(int count);
 
   const CodePage* code_page_;
 };

@@ -13,8 +13,9 @@
 namespace tavrel {
 namespace {
 
-std::string ShownName(const FolderFile& file, const CodePage& code_page) {
-  return NameInCodePage(WithoutExtension(file.Name), code_page);
+std::string ShownName(const FolderFile& file, ListedAs listed_as, const CodePage& code_page) {
+  const bool whole = listed_as == ListedAs::NameWithExtension;
+  return NameInCodePage(whole ? file.Name : WithoutExtension(file.Name), code_page);
 }
 
 }  // namespace
@@ -27,16 +28,16 @@ DatedFileList::DatedFileList(QWidget* parent) : QListWidget(parent) {
 }
 
 void DatedFileList::Fill(const std::filesystem::path& folder, std::string_view extension,
-                         const CodePage& code_page) {
+                         const CodePage& code_page, ListedAs listed_as) {
   clear();
   files_.clear();
   std::map<std::string, std::vector<FolderFile>> by_name;
   for (FolderFile& file : ListFiles(folder, extension, code_page)) {
-    by_name[code_page.Lower(ShownName(file, code_page))].push_back(std::move(file));
+    by_name[code_page.Lower(ShownName(file, listed_as, code_page))].push_back(std::move(file));
   }
   for (const auto& [key, files] : by_name) {
     for (const FolderFile& file : files) {
-      addItem(ToText(FileListEntry(ShownName(file, code_page), file.Modified), code_page));
+      addItem(ToText(FileListEntry(ShownName(file, listed_as, code_page), file.Modified), code_page));
       files_.push_back(file.Name);
     }
   }

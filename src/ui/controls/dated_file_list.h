@@ -10,6 +10,9 @@
 
 namespace tavrel {
 
+/// What a list shows of file names.
+enum class ListedAs { Name, NameWithExtension };
+
 /// A list of the program's own files: each as its name, padded or cut to 25 characters, and its date, in a
 /// fixed-pitch font so that the dates line up.
 class DatedFileList : public QListWidget {
@@ -18,9 +21,9 @@ class DatedFileList : public QListWidget {
  public:
   explicit DatedFileList(QWidget* parent = nullptr);
 
-  /// Lists the files of a folder whose names end in `extension`, shown without it and
-  /// sorted as shown, without letter case.
-  void Fill(const std::filesystem::path& folder, std::string_view extension, const CodePage& code_page);
+  /// Lists the files of a folder whose names end in `extension`, sorted as shown, without letter case.
+  void Fill(const std::filesystem::path& folder, std::string_view extension, const CodePage& code_page,
+            ListedAs listed_as = ListedAs::Name);
 
   /// The bare name of the selected file; empty if none is. Names cut to the same 25 characters stay apart.
   std::filesystem::path SelectedFile() const;

@@ -51,6 +51,7 @@ void LineField::keyPressEvent(QKeyEvent* event) {
   } else {
     QLineEdit::keyPressEvent(event);
   }
+  emit KeyPress();
 }
 
 void LineField::inputMethodEvent(QInputMethodEvent* event) {

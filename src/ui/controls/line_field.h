@@ -27,6 +27,8 @@ class LineField : public QLineEdit {
   int Number() const;
 
  signals:
+  /// A key was pressed in the field, whatever it did.
+  void KeyPress();
   /// The focus has gone to another control (not to a menu or another window).
   void LostFocus();
   /// Characters that the code page does not hold became "?". If nobody listens, the field tells it itself.

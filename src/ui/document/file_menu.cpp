@@ -2,6 +2,7 @@
 
 #include "ui/controls/message_box.h"
 #include "ui/controls/program_control.h"
+#include "ui/document/backup.h"
 #include "ui/document/delete_doc.h"
 #include "ui/document/new_doc.h"
 #include "ui/document/open_doc.h"
@@ -58,6 +59,14 @@ void FileMenu::FileClose_Click() {
   app_.State.DocPath.clear();
   ClearDocument(app_.State);
   editor_.ResetCaption();
+}
+
+void FileMenu::FileBackup_Click() {
+  Backup(app_, window_).exec();
+}
+
+void FileMenu::FileRestore_Click() {
+  Backup(app_, window_).exec();
 }
 
 void FileMenu::FileDelete_Click() {

@@ -24,6 +24,8 @@ class FileMenu : public QObject {
   void FileSave_Click();
   void FileSaveAs_Click();
   void FileClose_Click();
+  void FileBackup_Click();
+  void FileRestore_Click();
   void FileDelete_Click();
   void FileExit_Click();
 

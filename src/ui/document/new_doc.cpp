@@ -1,8 +1,8 @@
 #include "ui/document/new_doc.h"
 
 #include "core/document/default_pages.h"
+#include "ui/controls/file_question.h"
 #include "ui/controls/program_control.h"
-#include "ui/document/document_name.h"
 #include "ui/document/save_document.h"
 #include "ui_new_doc.h"
 
@@ -26,7 +26,7 @@ void NewDoc::Form_Load() {
 }
 
 void NewDoc::Command1_Click() {
-  const std::filesystem::path file = AskForDocumentFile(app_, this, ui_->Text1->Bytes());
+  const std::filesystem::path file = AskForFile(app_, this, ui_->Text1->Bytes(), ".dat");
   if (file.empty()) return;
   app_.State.DocPath = file;
   MakeDefaultPages(app_.State, {.Title = ui_->Check1->isChecked(),

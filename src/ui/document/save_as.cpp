@@ -1,7 +1,7 @@
 #include "ui/document/save_as.h"
 
+#include "ui/controls/file_question.h"
 #include "ui/controls/program_control.h"
-#include "ui/document/document_name.h"
 #include "ui/document/save_document.h"
 #include "ui_save_as.h"
 
@@ -22,7 +22,7 @@ void SaveAs::Form_Load() {
 }
 
 void SaveAs::Command1_Click() {
-  const std::filesystem::path file = AskForDocumentFile(app_, this, ui_->Text1->Bytes());
+  const std::filesystem::path file = AskForFile(app_, this, ui_->Text1->Bytes(), ".dat");
   if (file.empty()) return;
   app_.State.DocPath = file;
   SaveDoc(app_);

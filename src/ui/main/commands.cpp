@@ -18,6 +18,7 @@ Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, 
       search_(app, editor, *ui.Text1, window),
       blocks_(app, editor, window),
       music_(app, editor, window),
+      planner_(app, editor, window),
       help_menu_(app, skins, window) {
   ConnectFileMenu();
   ConnectPageMenu();
@@ -25,6 +26,7 @@ Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, 
   ConnectTextMenu();
   ConnectFontMenu();
   ConnectBlocksAndMusic();
+  Connect(ui_.EditProjectPlanner, planner_, &PlannerCommands::EditProjectPlanner_Click);
   Connect(ui_.HelpCustomise, help_menu_, &HelpMenu::HelpCustomise_Click);
 }
 
@@ -34,6 +36,8 @@ void Commands::ConnectFileMenu() {
   Connect(ui_.FileSave, file_menu_, &FileMenu::FileSave_Click);
   Connect(ui_.FileSaveAs, file_menu_, &FileMenu::FileSaveAs_Click);
   Connect(ui_.FileClose, file_menu_, &FileMenu::FileClose_Click);
+  Connect(ui_.FileBackup, file_menu_, &FileMenu::FileBackup_Click);
+  Connect(ui_.FileRestore, file_menu_, &FileMenu::FileRestore_Click);
   Connect(ui_.FileDelete, file_menu_, &FileMenu::FileDelete_Click);
   Connect(ui_.FileExit, file_menu_, &FileMenu::FileExit_Click);
   Connect(ui_.ToolsPublish, tools_, &ToolsCommands::ToolsPublish_Click);

@@ -10,6 +10,7 @@
 #include "ui/editing/text_commands.h"
 #include "ui/ipod/music_commands.h"
 #include "ui/ipod/tools_commands.h"
+#include "ui/planner/planner_commands.h"
 #include "ui/shell/help_menu.h"
 
 namespace Ui {
@@ -46,6 +47,7 @@ class Commands : public QObject {
   SearchCommands search_;
   BlockCommands blocks_;
   MusicCommands music_;
+  PlannerCommands planner_;
   HelpMenu help_menu_;
 };
 

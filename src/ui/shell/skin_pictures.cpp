@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QPixmap>
 
 #include "ui/controls/picture_area.h"
 #include "ui/controls/text_conversion.h"
@@ -12,6 +11,7 @@ namespace {
 
 constexpr const char* kCoverSkin = "Skin1.jpg";
 constexpr const char* kBackgroundSkin = "Skin2.jpg";
+constexpr const char* kBackupSkin = "SkinBackup.jpg";
 
 QString SkinFile(const Global& global, const char* name) {
   return ToText(global.ProgramFolder / name);
@@ -24,6 +24,10 @@ QPixmap LoadPicture(const QString& file) {
 }
 
 }  // namespace
+
+QPixmap BackupSkin(const Global& global) {
+  return LoadPicture(SkinFile(global, kBackupSkin));
+}
 
 SkinPictures::SkinPictures(const Global& global, PictureArea& cover, QWidget& cover_text,
                            PictureArea& background)

@@ -1,13 +1,17 @@
 #pragma once
 
+#include <QPixmap>
+
 #include "core/document/global.h"
 
-class QPixmap;
 class QWidget;
 
 namespace tavrel {
 
 class PictureArea;
+
+/// The background of the Backup dialog, "SkinBackup.jpg", whether skins are on or off; empty if there is none.
+QPixmap BackupSkin(const Global& global);
 
 /// The background pictures of the main window: "Skin1.jpg" covers it while no document is open, "Skin2.jpg"
 /// lies behind the editor.

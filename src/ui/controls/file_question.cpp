@@ -1,4 +1,4 @@
-#include "ui/document/document_name.h"
+#include "ui/controls/file_question.h"
 
 #include "core/shell/messages.h"
 #include "core/text/file_names.h"
@@ -6,10 +6,11 @@
 
 namespace tavrel {
 
-std::filesystem::path AskForDocumentFile(App& app, QWidget* parent, std::string_view typed) {
+std::filesystem::path AskForFile(App& app, QWidget* parent, std::string_view typed,
+                                 std::string_view extension) {
   const std::string name = CleanName(typed);
   if (name.empty()) return {};
-  const std::filesystem::path file = PathFromName(name + ".dat", app.CodePageInUse());
+  const std::filesystem::path file = PathFromName(name + std::string(extension), app.CodePageInUse());
   std::error_code error;
   const bool exists = std::filesystem::exists(app.State.ProgramFolder / file, error);
   if (exists && !app.Messages.Show(parent, messages::FileExists())) return {};

@@ -1,0 +1,114 @@
+#include "ui/planner/planner_cell.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+
+#include "ui/controls/body_field.h"
+#include "ui/controls/tick_box.h"
+
+namespace tavrel {
+namespace {
+
+constexpr qreal kSmallFont = 0.9;
+constexpr int kMargin = 4;
+constexpr qreal kCorner = 5;
+constexpr int kLeastLines = 2;
+
+QFont Scaled(QFont font, qreal factor) {
+  font.setPointSizeF(font.pointSizeF() * factor);
+  return font;
+}
+
+}  // namespace
+
+PlannerCell::PlannerCell(std::size_t index, QWidget* parent)
+    : QWidget(parent), index_(index), label_(new QLabel(this)), text_(new BodyField(this)) {
+  setFont(Scaled(font(), kSmallFont));
+  north_ = AddTick("Check4", "North");
+  west_ = AddTick("Check1", "   West");
+  south_ = AddTick("Check3", "South");
+  east_ = AddTick("Check2", "East");
+  text_->setTabChangesFocus(true);
+  text_->setFrameShape(QFrame::NoFrame);
+  text_->setMinimumHeight(kLeastLines * text_->fontMetrics().lineSpacing() + 2 * kMargin);
+  connect(text_, &BodyField::textChanged, this, [this] {
+    update();
+    emit Changed();
+  });
+  LayOut();
+  NameControls();
+}
+
+TickBox* PlannerCell::AddTick(const QString& array, const QString& caption) {
+  auto* tick = new TickBox(this);
+  tick->setObjectName(QString("%1_%2").arg(array).arg(index_));
+  tick->setText(caption);
+  connect(tick, &TickBox::stateChanged, this, &PlannerCell::Changed);
+  return tick;
+}
+
+void PlannerCell::LayOut() {
+  auto* layout = new QGridLayout(this);
+  layout->setContentsMargins(kMargin + 2, kMargin, kMargin + 2, kMargin);
+  layout->setSpacing(kMargin / 2);
+  layout->addWidget(label_, 0, 0);
+  layout->addWidget(north_, 0, 1, Qt::AlignHCenter);
+  layout->addWidget(text_, 1, 0, 1, 3);
+  layout->addWidget(west_, 2, 0, Qt::AlignLeft);
+  layout->addWidget(south_, 2, 1, Qt::AlignHCenter);
+  layout->addWidget(east_, 2, 2, Qt::AlignRight);
+  layout->setColumnStretch(0, 1);
+  layout->setColumnStretch(2, 1);
+  layout->setRowStretch(1, 1);
+}
+
+void PlannerCell::NameControls() {
+  label_->setObjectName(QString("Label6_%1").arg(index_));
+  QFont bold = label_->font();
+  bold.setBold(true);
+  label_->setFont(bold);
+  text_->setObjectName(QString("Text1_%1").arg(index_));
+}
+
+void PlannerCell::SetCodePage(const CodePage& code_page) {
+  text_->SetCodePage(code_page);
+}
+
+void PlannerCell::ShowLabel(const QString& page_number) {
+  label_->setText(page_number);
+  text_->setAccessibleName(tr("Text of page %1").arg(page_number));
+  const std::array<std::pair<TickBox*, QString>, 4> ticks = {{{north_, tr("Page %1 links to the north")},
+                                                              {west_, tr("Page %1 links to the west")},
+                                                              {east_, tr("Page %1 links to the east")},
+                                                              {south_, tr("Page %1 links to the south")}}};
+  for (const auto& [tick, name] : ticks) tick->setAccessibleName(name.arg(page_number));
+}
+
+void PlannerCell::Show(const PlanCell& cell) {
+  text_->SetBytes(cell.Text);
+  west_->SetValue(cell.West);
+  east_->SetValue(cell.East);
+  south_->SetValue(cell.South);
+  north_->SetValue(cell.North);
+}
+
+PlanCell PlannerCell::Shown() const {
+  return {text_->Bytes(), west_->Value(), east_->Value(), south_->Value(), north_->Value()};
+}
+
+std::vector<QWidget*> PlannerCell::ControlsInOrder() const {
+  return {north_, text_, west_, south_, east_};
+}
+
+void PlannerCell::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const bool is_page = !text_->document()->isEmpty();
+  painter.setBrush(palette().color(QPalette::Base));
+  painter.setPen(QPen(palette().color(is_page ? QPalette::Highlight : QPalette::Mid), is_page ? 1.5 : 1));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
+}
+
+}  // namespace tavrel
