@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -14,6 +16,15 @@ namespace tavrel {
 struct Volume {
   std::string Name;            ///< what a drive list shows: "D:" or the mount point, as UTF-8
   std::filesystem::path Root;  ///< its topmost folder
+};
+
+/// A root of the registry, by the number of its handle.
+enum class RegistryRoot : std::uint32_t { LocalMachine = 0x80000002 };
+
+/// A registry value as it is stored: its type's number and its bytes, a text's in the system's code page.
+struct RegistryValue {
+  std::uint32_t Type = 0;
+  std::string Bytes;
 };
 
 /// What differs between systems.
@@ -53,6 +64,21 @@ class Platform {
   /// Waits until all that was written to the folder's volume is on the disk, which may then be taken out.
   /// Throws FileError.
   virtual void FlushVolumeOf(const std::filesystem::path& folder) = 0;
+
+  /// Opens a web address, or a file of the current folder by its bare name, in the program that people use
+  /// for it. Whether that could be tried at all.
+  virtual bool OpenInBrowser(const std::string& target) = 0;
+
+  /// Starts a new message to a "mailto:" address in the e-mail program. Whether that could be tried at all.
+  virtual bool OpenMail(const std::string& address) = 0;
+
+  /// Starts a program, in front of the other windows. Throws FileError.
+  virtual void StartProgram(const std::filesystem::path& program) = 0;
+
+  /// Reads a registry value of at most 1,024 bytes; nothing if it is missing or larger, if its key does not
+  /// open with full access, or if the system has no registry.
+  virtual std::optional<RegistryValue> ReadRegistry(RegistryRoot root, const std::string& key,
+                                                    const std::string& name) const = 0;
 };
 
 }  // namespace tavrel

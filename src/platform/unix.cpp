@@ -6,8 +6,10 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "core/text/run_time_error.h"
 #include "platform/file_layer.h"
 #include "platform/system_platform.h"
+#include "platform/unix_programs.h"
 #include "platform/unix_volumes.h"
 #include "platform/whole_file.h"
 
@@ -15,6 +17,9 @@ namespace tavrel {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// Opens files and addresses with the programs that the desktop has for them.
+constexpr const char* kDesktopOpener = "xdg-open";
 
 constexpr mode_t kNewFileMode = 0666;
 constexpr mode_t kPermissionBits = 07777;
@@ -130,6 +135,20 @@ class UnixPlatform final : public Platform {
   }
 
   void FlushVolumeOf(const fs::path& folder) override { tavrel::FlushVolumeOf(SystemFiles(), folder); }
+
+  bool OpenInBrowser(const std::string& target) override { return !StartDetached({kDesktopOpener, target}); }
+
+  bool OpenMail(const std::string& address) override { return !StartDetached({kDesktopOpener, address}); }
+
+  void StartProgram(const fs::path& program) override {
+    const std::error_code error = StartDetached({program.string()});
+    if (error) throw FileError(program, "could not be started", error);
+  }
+
+  std::optional<RegistryValue> ReadRegistry(RegistryRoot /*root*/, const std::string& /*key*/,
+                                            const std::string& /*name*/) const override {
+    return std::nullopt;
+  }
 };
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "support/fake_platform.h"
 
+#include "core/text/run_time_error.h"
 #include "platform/whole_file.h"
 
 namespace tavrel::test {
@@ -28,6 +29,30 @@ void FakePlatform::CopyPlainFile(const std::filesystem::path& from, const std::f
 
 void FakePlatform::FlushVolumeOf(const std::filesystem::path& folder) {
   if (FlushesVolumes) tavrel::FlushVolumeOf(Files, folder);
+}
+
+bool FakePlatform::OpenInBrowser(const std::string& target) {
+  if (!HasBrowser) return false;
+  Opened.push_back(target);
+  OpenedIn = std::filesystem::current_path();
+  return true;
+}
+
+bool FakePlatform::OpenMail(const std::string& address) {
+  return OpenInBrowser(address);
+}
+
+void FakePlatform::StartProgram(const std::filesystem::path& program) {
+  if (!StartsPrograms)
+    throw FileError(program, "could not be started", std::make_error_code(std::errc::permission_denied));
+  Started.push_back(program);
+}
+
+std::optional<RegistryValue> FakePlatform::ReadRegistry(RegistryRoot root, const std::string& key,
+                                                        const std::string& name) const {
+  const auto found = Registry.find(key + "|" + name);
+  if (root != RegistryRoot::LocalMachine || found == Registry.end()) return std::nullopt;
+  return found->second;
 }
 
 }  // namespace tavrel::test

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -15,8 +16,14 @@ class FakePlatform final : public Platform {
   std::vector<Volume> FakeVolumes;
   std::set<std::string> NotReady;  ///< names of volumes that cannot be read
   std::set<std::filesystem::path> NotWritable;
-  bool FlushesVolumes = true;       ///< whether FlushVolumeOf takes its time
-  std::string SystemVolume = "c:";  ///< name of the system's own volume
+  bool FlushesVolumes = true;                  ///< whether FlushVolumeOf takes its time
+  std::string SystemVolume = "c:";             ///< name of the system's own volume
+  bool HasBrowser = true;                      ///< whether there is something that opens pages and messages
+  std::vector<std::string> Opened;             ///< pages and messages
+  std::filesystem::path OpenedIn;              ///< the folder that was current when the last one was opened
+  std::vector<std::filesystem::path> Started;  ///< programs
+  bool StartsPrograms = true;                  ///< whether they start
+  std::map<std::string, RegistryValue> Registry;  ///< values of the local machine by "KEY|NAME"
   FailingFiles Files;
 
   const CodePage& SystemCodePage() const override { return CodePage::Windows1252(); }
@@ -29,6 +36,11 @@ class FakePlatform final : public Platform {
   void WritePlainFile(const std::filesystem::path& file, std::string_view bytes) override;
   void CopyPlainFile(const std::filesystem::path& from, const std::filesystem::path& to) override;
   void FlushVolumeOf(const std::filesystem::path& folder) override;
+  bool OpenInBrowser(const std::string& target) override;
+  bool OpenMail(const std::string& address) override;
+  void StartProgram(const std::filesystem::path& program) override;
+  std::optional<RegistryValue> ReadRegistry(RegistryRoot root, const std::string& key,
+                                            const std::string& name) const override;
 };
 
 }  // namespace tavrel::test

@@ -7,6 +7,7 @@
 
 #include "tour/tour.h"
 #include "ui/controls/text_conversion.h"
+#include "ui/shell/look.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ QPalette DarkPalette() {
 
 }  // namespace
 
-/// tavrel_tour --out FOLDER [--dark]
+/// tavrel_tour --out FOLDER [--dark] [--mirrored]
 int main(int argc, char* argv[]) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
@@ -29,10 +30,12 @@ int main(int argc, char* argv[]) {
   const QStringList arguments = QApplication::arguments();
   const qsizetype out = arguments.indexOf("--out");
   if (out < 0 || out + 1 >= arguments.size()) {
-    std::cerr << "usage: tavrel_tour --out FOLDER [--dark]\n";
+    std::cerr << "usage: tavrel_tour --out FOLDER [--dark] [--mirrored]\n";
     return 2;
   }
+  tavrel::SetUpLook();
   if (arguments.contains("--dark")) QApplication::setPalette(DarkPalette());
+  if (arguments.contains("--mirrored")) QApplication::setLayoutDirection(Qt::RightToLeft);
 
   try {
     tavrel::test::Tour tour(tavrel::ToPath(arguments[out + 1]));

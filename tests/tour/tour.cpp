@@ -17,7 +17,7 @@
 #include "support/user.h"
 #include "ui/controls/grid.h"
 #include "ui/controls/text_conversion.h"
-#include "ui/shell/sample_project.h"
+#include "ui/shell/first_start.h"
 
 namespace tavrel::test {
 
@@ -77,7 +77,7 @@ bool Tour::Play() {
 
 void Tour::StartProgram() {
   EnterProgramFolder(state_.ProgramFolder);
-  InstallSampleProject(state_.ProgramFolder, platform_);
+  InstallFirstFiles(state_.ProgramFolder, platform_);
   window_ = std::make_unique<Main>(app_);
   program_.Run([this] { window_->Form_Load(); });
   window_->show();
@@ -197,6 +197,13 @@ void Tour::LookAtTheOtherDialogs() {
     Click(dialog, "Command1");
   });
   Choose("HelpCustomise");
+  robot_.Expect("About", [this](QWidget& dialog) {
+    TakePicture(dialog, "about");
+    AnswerMessage("no-system-info", "OK");
+    Click(dialog, "cmdSysInfo");
+    Click(dialog, "cmdOK");
+  });
+  Choose("HelpAbout");
   AnswerMessage("close-question", "OK");
   Choose("FileClose");
 }

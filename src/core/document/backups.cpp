@@ -26,16 +26,24 @@ fs::path FileOf(const fs::path& base_name, const char* extension, const Global& 
   return file += extension;
 }
 
+/// The file to copy. A name with a single full stop is the file itself, however its extension is written.
+fs::path SourceOf(const fs::path& name, const fs::path& base_name, const char* extension,
+                  const Global& global) {
+  const bool is_itself =
+      !base_name.empty() && name.stem().native() + fs::path(".").native() == base_name.native();
+  return is_itself ? global.ProgramFolder / name : FileOf(base_name, extension, global);
+}
+
 }  // namespace
 
 void BackUpDocument(const fs::path& name, const Global& global, Platform& platform) {
   const fs::path base = BaseName(name, platform.SystemCodePage());
-  CopyWhole(FileOf(base, "dat", global), FileOf(base, "bak", global), platform);
+  CopyWhole(SourceOf(name, base, "dat", global), FileOf(base, "bak", global), platform);
 }
 
 void RestoreDocument(const fs::path& name, const Global& global, Platform& platform) {
   const fs::path base = BaseName(name, platform.SystemCodePage());
-  CopyWhole(FileOf(base, "bak", global), FileOf(base, "dat", global), platform);
+  CopyWhole(SourceOf(name, base, "bak", global), FileOf(base, "dat", global), platform);
 }
 
 }  // namespace tavrel

@@ -1,5 +1,7 @@
 #include "core/shell/messages.h"
 
+#include <utility>
+
 #include "core/text/numbers.h"
 
 namespace tavrel::messages {
@@ -11,6 +13,21 @@ Message Question(std::string_view text) {
 
 Message Refusal(std::string_view text) {
   return {std::string(text), Buttons::Ok, Icon::Exclamation, "Oops!"};
+}
+
+/// The message with the arguments in place of %1 and %2.
+Message Filled(Message message, std::vector<std::string> arguments) {
+  message.Pattern = std::exchange(message.Text, {});
+  message.Arguments = std::move(arguments);
+  for (std::size_t at = 0; at < message.Pattern.size(); ++at) {
+    const bool placed = message.Pattern[at] == '%';
+    if (placed) {
+      message.Text += message.Arguments.at(static_cast<std::size_t>(message.Pattern.at(++at) - '1'));
+    } else {
+      message.Text += message.Pattern[at];
+    }
+  }
+  return message;
 }
 
 }  // namespace
@@ -61,15 +78,17 @@ Message ImportErasesDocument() {
 }
 
 Message ImportFinished(int last_page) {
-  return {" Last page is" + SignedText(last_page) +
-              ". Not all pages have titles    \r\n and notes, so will not show up in the page    \r\n"
-              " table until selected.\r\n",
-          Buttons::Ok, Icon::Exclamation, "Please note..."};
+  return Filled(
+      {" Last page is%1. Not all pages have titles    \r\n and notes, so will not show up in the page    "
+       "\r\n table until selected.\r\n",
+       Buttons::Ok, Icon::Exclamation, "Please note..."},
+      {SignedText(last_page)});
 }
 
 Message DeleteFolderQuestion(std::string_view path) {
-  return {"Are you sure you want to delete...\r\n" + std::string(path), Buttons::OkCancel, Icon::Question,
-          "Please confirm"};
+  return Filled(
+      {"Are you sure you want to delete...\r\n%1", Buttons::OkCancel, Icon::Question, "Please confirm"},
+      {std::string(path)});
 }
 
 Message DeleteFolderFailed() {
@@ -81,8 +100,8 @@ Message DeleteFolderFailed() {
 
 Message PlanOverwritesPages(int top) {
   // The upper number is one more than the last page, and stays so.
-  return {"Overwrite pages" + SignedText(top) + " to" + SignedText(top + 25) + "?    ", Buttons::OkCancel,
-          Icon::Question, "Save"};
+  return Filled({"Overwrite pages%1 to%2?    ", Buttons::OkCancel, Icon::Question, "Save"},
+                {SignedText(top), SignedText(top + 25)});
 }
 
 Message PublishFinished() {
@@ -90,8 +109,18 @@ Message PublishFinished() {
 }
 
 Message DriveNotAvailable(std::string_view drive) {
-  return {std::string("Drive ").append(drive).append(" not available!  "), Buttons::Ok, Icon::Critical,
-          "Warning"};
+  return Filled({"Drive %1 not available!  ", Buttons::Ok, Icon::Critical, "Warning"}, {std::string(drive)});
+}
+
+Message SystemInfoUnavailable() {
+  return {"System Information Is Unavailable At This Time", Buttons::Ok, Icon::None,
+          std::string(kProgramName)};
+}
+
+Message CannotOpen(std::string_view target) {
+  return Filled({"Nothing was found on this computer to open    \r\n%1    ", Buttons::Ok, Icon::Exclamation,
+                 std::string(kProgramName)},
+                {std::string(target)});
 }
 
 }  // namespace tavrel::messages

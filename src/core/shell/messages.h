@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tavrel {
 
@@ -14,6 +15,9 @@ struct Message {
   tavrel::Buttons Buttons = tavrel::Buttons::Ok;
   tavrel::Icon Icon = tavrel::Icon::None;
   std::string Title;
+
+  std::string Pattern = {};  ///< the text before %1, %2 ... were filled in; empty if it has none
+  std::vector<std::string> Arguments = {};  ///< what was filled in
 };
 
 inline constexpr const char* kProgramName = "Tavrel Writer";
@@ -39,6 +43,9 @@ Message DeleteFolderFailed();
 Message PlanOverwritesPages(int top);
 Message PublishFinished();
 Message DriveNotAvailable(std::string_view drive);
+Message SystemInfoUnavailable();
+/// Nothing on this computer opens the page or address.
+Message CannotOpen(std::string_view target);
 
 }  // namespace messages
 }  // namespace tavrel

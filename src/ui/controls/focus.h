@@ -5,11 +5,14 @@
 
 namespace tavrel {
 
-/// Whether a control has lost the focus to another one. Opening a menu or a list and going to another window
-/// only borrow it.
+/// Whether a control has lost the focus to another one, in its own window or in one that stands beside it.
+/// Opening a menu, a list or a dialog and going to another program only borrow it.
 inline bool IsFocusLost(const QFocusEvent& event) {
-  return QApplication::activePopupWidget() == nullptr && event.reason() != Qt::PopupFocusReason &&
-         event.reason() != Qt::MenuBarFocusReason && event.reason() != Qt::ActiveWindowFocusReason;
+  if (QApplication::activePopupWidget() != nullptr) return false;
+  if (event.reason() == Qt::ActiveWindowFocusReason) {
+    return QApplication::activeWindow() != nullptr && QApplication::activeModalWidget() == nullptr;
+  }
+  return event.reason() != Qt::PopupFocusReason && event.reason() != Qt::MenuBarFocusReason;
 }
 
 }  // namespace tavrel

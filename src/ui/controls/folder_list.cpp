@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QStyle>
+#include <QStyledItemDelegate>
 
 #include "core/ipod/folder_store.h"
 #include "ui/controls/text_conversion.h"
@@ -11,7 +12,37 @@ namespace tavrel {
 
 namespace fs = std::filesystem;
 
+namespace {
+
+constexpr int kDepthRole = Qt::UserRole;
+
+/// Draws rows further in the deeper their folder lies.
+class IndentingDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem indented = option;
+    const int indent = Indent(option, index);
+    const bool mirrored = option.direction == Qt::RightToLeft;
+    indented.rect.adjust(mirrored ? 0 : indent, 0, mirrored ? -indent : 0, 0);
+    QStyledItemDelegate::paint(painter, indented, index);
+  }
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(Indent(option, index), 0);
+  }
+
+ private:
+  static int Indent(const QStyleOptionViewItem& option, const QModelIndex& index) {
+    return index.data(kDepthRole).toInt() * option.fontMetrics.averageCharWidth() * 2;
+  }
+};
+
+}  // namespace
+
 FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
+  setItemDelegate(new IndentingDelegate(this));
   const int icon = style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this);
   setIconSize(QSize(icon, icon));
 }
@@ -59,8 +90,8 @@ void FolderList::keyPressEvent(QKeyEvent* event) {
 }
 
 void FolderList::AddFolder(const fs::path& folder, const fs::path& name, int depth, bool open) {
-  constexpr int kBlanksPerLevel = 2;
-  auto* item = new QListWidgetItem(QString(depth * kBlanksPerLevel, ' ') + ToText(name), this);
+  auto* item = new QListWidgetItem(ToText(name), this);
+  item->setData(kDepthRole, depth);
   item->setIcon(style()->standardIcon(open ? QStyle::SP_DirOpenIcon : QStyle::SP_DirIcon));
   folders_.push_back(folder);
 }

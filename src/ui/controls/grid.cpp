@@ -44,7 +44,7 @@ void Grid::SetSize(int rows, int columns) {
   model_->SetSize(rows, columns);
 }
 
-void Grid::SetHeading(int column, std::string_view heading, Qt::Alignment alignment) {
+void Grid::SetHeading(int column, const QString& heading, Qt::Alignment alignment) {
   model_->SetHeading(column, heading);
   model_->SetAlignment(column, alignment);
 }

@@ -22,7 +22,7 @@ class Grid : public QTableView {
 
   void SetCodePage(const CodePage& code_page);
   void SetSize(int rows, int columns);
-  void SetHeading(int column, std::string_view heading, Qt::Alignment alignment = Qt::AlignLeft);
+  void SetHeading(int column, const QString& heading, Qt::Alignment alignment = Qt::AlignLeft);
 
   const std::string& TextMatrix(int row, int column) const;
   void SetTextMatrix(int row, int column, std::string_view text);

@@ -16,7 +16,7 @@ void GridModel::SetSize(int rows, int columns) {
   endResetModel();
 }
 
-void GridModel::SetHeading(int column, std::string_view heading) {
+void GridModel::SetHeading(int column, const QString& heading) {
   columns_.at(static_cast<std::size_t>(column)).Heading = heading;
   emit headerDataChanged(Qt::Horizontal, column, column);
 }
@@ -72,7 +72,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   const Column& column = columns_.at(static_cast<std::size_t>(section));
-  if (role == Qt::DisplayRole) return ToText(column.Heading, *code_page_);
+  if (role == Qt::DisplayRole) return column.Heading;
   if (role == Qt::TextAlignmentRole) return QVariant::fromValue(column.Alignment);
   return {};
 }

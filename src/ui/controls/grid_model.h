@@ -20,7 +20,7 @@ class GridModel : public QAbstractTableModel {
 
   void SetCodePage(const CodePage& code_page) { code_page_ = &code_page; }
   void SetSize(int rows, int columns);
-  void SetHeading(int column, std::string_view heading);
+  void SetHeading(int column, const QString& heading);
   void SetAlignment(int column, Qt::Alignment alignment);
 
   const std::string& Text(int row, int column) const { return At(row, column).Text; }
@@ -41,7 +41,7 @@ class GridModel : public QAbstractTableModel {
     QColor Colour;
   };
   struct Column {
-    std::string Heading;
+    QString Heading;
     Qt::Alignment Alignment = Qt::AlignLeft | Qt::AlignVCenter;
   };
 

@@ -28,8 +28,8 @@ void TagNotice::Check(const QObject* field, const QString& text, const QStringLi
 }
 
 QString TagNotice::NoticeOf(const QString& tag) const {
-  const QString notice = tag.startsWith("</") ? "%1 cannot keep what follows \"%2\" in this field."
-                                              : "%1 takes \"%2\" in this field for its own markup.";
+  const QString notice = tag.startsWith("</") ? tr("%1 cannot keep what follows \"%2\" in this field.")
+                                              : tr("%1 takes \"%2\" in this field for its own markup.");
   return notice.arg(owner_, tag);
 }
 

@@ -1,5 +1,7 @@
 #include "ui/controls/text_conversion.h"
 
+#include <QCoreApplication>
+
 #include "core/text/run_time_error.h"
 
 namespace tavrel {
@@ -66,8 +68,10 @@ bool IsTypedText(const QString& text) {
 }
 
 QString ReplacedNotice(int count) {
-  if (count == 1) return "A character that an iPod note cannot hold became \"?\".";
-  return QString("%1 characters that an iPod note cannot hold became \"?\".").arg(count);
+  if (count == 1)
+    return QCoreApplication::translate("Fields", "A character that an iPod note cannot hold became \"?\".");
+  return QCoreApplication::translate("Fields", "%1 characters that an iPod note cannot hold became \"?\".")
+      .arg(count);
 }
 
 bool IsFit(const QString& text, const CodePage& code_page, QChar line_break) {

@@ -23,7 +23,7 @@ Backup::Backup(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_u
 Backup::~Backup() = default;
 
 void Backup::Form_Load() {
-  ui_->Background->SetPicture(BackupSkin(app_.State));
+  ui_->Background->SetPicture(BackupSkin());
   ReadDir();
 }
 

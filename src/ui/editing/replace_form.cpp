@@ -8,7 +8,7 @@ ReplaceForm::ReplaceForm(App& app, QWidget* parent)
     : SearchDialog(app, parent), ui_(std::make_unique<Ui::ReplaceForm>()) {
   ui_->setupUi(this);
   UseControls({ui_->Text1, ui_->Check1, ui_->Check2, ui_->Command1, ui_->Command2});
-  ui_->TagNotice->SetOwner("A page");
+  ui_->TagNotice->SetOwner(tr("A page"));
   ui_->TagNotice->Watch(*ui_->Text2, {"</text>"});
 }
 

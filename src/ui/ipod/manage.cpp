@@ -76,10 +76,10 @@ void Manage::Form_Load() {
 void Manage::FindPod() {
   const std::optional<Pod> pod = tavrel::FindPod(app_.System, app_.System.Volumes());
   if (pod && remote_->Browser.Show(pod->Notes)) {
-    ShowRemote(" iPod folders: ", *ui_->ManagerTab);
+    ShowRemote(tr(" iPod folders: "), *ui_->ManagerTab);
   } else {
     remote_->Browser.Show(SystemRoot(app_.System));
-    ShowRemote(" Remote folders:", *ui_->BrowserTab);
+    ShowRemote(tr(" Remote folders:"), *ui_->BrowserTab);
   }
 }
 

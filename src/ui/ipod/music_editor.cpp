@@ -16,14 +16,14 @@ struct Column {
 
 constexpr int kNameColumn = 0;
 constexpr std::array<Column, kMusicFields + 1> kColumns = {{
-    {"Link", "M0000"},
-    {"Song", "A LONG SONG TITLE__"},
-    {"Album", "THE ALBUM NAME__"},
-    {"Composer", "COMPOSER'S NAME"},
-    {"Artist", "ARTIST'S NAME"},
-    {"Genre", "THE GENRE"},
-    {"Playlist", "PLAYLIST NAME"},
-    {"Notes", "THESE ARE SOME NOTES"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Link"), "M0000"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Song"), "A LONG SONG TITLE__"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Album"), "THE ALBUM NAME__"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Composer"), "COMPOSER'S NAME"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Artist"), "ARTIST'S NAME"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Genre"), "THE GENRE"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Playlist"), "PLAYLIST NAME"},
+    {QT_TRANSLATE_NOOP("tavrel::MusicEditor", "Notes"), "THESE ARE SOME NOTES"},
 }};
 
 /// Column 1 holds the first field.
@@ -60,7 +60,7 @@ void MusicEditor::ConnectControls() {
   On(control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   On(control, ui_->Command3, &QPushButton::clicked, this, [this] { Command3_Click(); });
   On(control, ui_->Command4, &QPushButton::clicked, this, [this] { Command4_Click(); });
-  ui_->TagNotice->SetOwner("A music link");
+  ui_->TagNotice->SetOwner(tr("A music link"));
   for (std::size_t field = 0; field < kMusicFields; ++field) {
     On(control, text1_[field], &LineField::returnPressed, this, [this] { Text1_KeyPress(); });
     ui_->TagNotice->Watch(*text1_[field], TagsThatSpoil(field));
@@ -79,7 +79,7 @@ void MusicEditor::BuildGrid() {
   grid.SetSize(kLastMusicLink, static_cast<int>(kColumns.size()));
   for (int column = 0; column < static_cast<int>(kColumns.size()); ++column) {
     const Column& look = kColumns[static_cast<std::size_t>(column)];
-    grid.SetHeading(column, look.Heading, column == kNameColumn ? Qt::AlignHCenter : Qt::AlignLeft);
+    grid.SetHeading(column, tr(look.Heading), column == kNameColumn ? Qt::AlignHCenter : Qt::AlignLeft);
     grid.setColumnWidth(column, grid.WidthOf(look.WidthSample));
   }
   for (int link = 1; link <= kLastMusicLink; ++link) {

@@ -27,7 +27,8 @@ Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, 
   ConnectFontMenu();
   ConnectBlocksAndMusic();
   Connect(ui_.EditProjectPlanner, planner_, &PlannerCommands::EditProjectPlanner_Click);
-  Connect(ui_.HelpCustomise, help_menu_, &HelpMenu::HelpCustomise_Click);
+  ConnectHelpMenu();
+  ConnectToolBar();
 }
 
 void Commands::ConnectFileMenu() {
@@ -92,9 +93,44 @@ void Commands::ConnectBlocksAndMusic() {
   On(app_.Control, ui_.Command4, &QAbstractButton::clicked, this, [this] { music_.Command4_Click(); });
 }
 
+void Commands::ConnectHelpMenu() {
+  Connect(ui_.HelpHelp, help_menu_, &HelpMenu::HelpHelp_Click);
+  Connect(ui_.HelpWebSite, help_menu_, &HelpMenu::HelpWebSite_Click);
+  Connect(ui_.HelpIpodSite, help_menu_, &HelpMenu::HelpIpodSite_Click);
+  Connect(ui_.HelpiTunesSite, help_menu_, &HelpMenu::HelpiTunesSite_Click);
+  Connect(ui_.HelpEmail, help_menu_, &HelpMenu::HelpEmail_Click);
+  Connect(ui_.HelpCustomise, help_menu_, &HelpMenu::HelpCustomise_Click);
+  Connect(ui_.HelpAbout, help_menu_, &HelpMenu::HelpAbout_Click);
+}
+
+void Commands::ConnectToolBar() {
+  Connect(ui_.Image2, file_menu_, &FileMenu::FileNew_Click);
+  Connect(ui_.Image3, file_menu_, &FileMenu::FileOpen_Click);
+  Connect(ui_.Image4, file_menu_, &FileMenu::FileSave_Click);
+  Connect(ui_.Image5, text_, &TextCommands::EditCut_Click);
+  Connect(ui_.Image6, text_, &TextCommands::EditCopy_Click);
+  Connect(ui_.Image7, text_, &TextCommands::EditPaste_Click);
+  Connect(ui_.Image8, pages_, &PageCommands::EditDelete_Click);
+  Connect(ui_.Image9, pages_, &PageCommands::EditCopyPage_Click);
+  Connect(ui_.Image10, pages_, &PageCommands::EditPastePage_Click);
+  Connect(ui_.Image11, tools_, &ToolsCommands::ToolsManage_Click);
+  Connect(ui_.Image12, tools_, &ToolsCommands::ToolsPublish_Click);
+  Connect(ui_.Image13, pages_, &PageCommands::EditPageUp_Click);
+  Connect(ui_.Image14, pages_, &PageCommands::EditPageDown_Click);
+  Connect(ui_.Image15, pages_, &PageCommands::EditDelete_Click);
+  Connect(ui_.Image16, links_, &LinkCommands::EditLinkUp_Click);
+  Connect(ui_.Image17, links_, &LinkCommands::EditLinkDown_Click);
+  Connect(ui_.Image18, links_, &LinkCommands::EditLinkDelete_Click);
+}
+
 template <typename Group>
 void Commands::Connect(const QAction* item, Group& group, void (Group::*handler)()) {
   On(app_.Control, item, &QAction::triggered, this, [&group, handler] { (group.*handler)(); });
+}
+
+template <typename Group>
+void Commands::Connect(const PictureButton* button, Group& group, void (Group::*handler)()) {
+  On(app_.Control, button, &PictureButton::clicked, this, [&group, handler] { (group.*handler)(); });
 }
 
 }  // namespace tavrel

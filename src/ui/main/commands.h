@@ -19,7 +19,9 @@ class Main;
 
 namespace tavrel {
 
-/// The main window's commands in their groups, each joined to its menu item.
+class PictureButton;
+
+/// The main window's commands in their groups, each joined to its menu item and its button.
 class Commands : public QObject {
   Q_OBJECT
 
@@ -33,7 +35,11 @@ class Commands : public QObject {
   void ConnectTextMenu();
   void ConnectFontMenu();
   void ConnectBlocksAndMusic();
+  void ConnectHelpMenu();
+  void ConnectToolBar();
 
+  template <typename Group>
+  void Connect(const PictureButton* button, Group& group, void (Group::*handler)());
   template <typename Group>
   void Connect(const QAction* item, Group& group, void (Group::*handler)());
 

@@ -14,7 +14,7 @@ constexpr int kNoticeTime = 15000;
 FieldNotices::FieldNotices(Ui::Main& ui) : ui_(ui) {
   auto* tags = new TagNotice(ui.StatusBar);
   tags->setObjectName("TagNotice");
-  tags->SetOwner("A page");
+  tags->SetOwner(tr("A page"));
   ui_.StatusBar->addPermanentWidget(tags);
   const auto watch = [this, tags](LineField& field, const QStringList& spoiling_tags) {
     connect(&field, &LineField::CharactersReplaced, this, &FieldNotices::TellReplaced);

@@ -12,6 +12,7 @@
 #include "ui/controls/text_conversion.h"
 #include "ui/main/commands.h"
 #include "ui/main/field_notices.h"
+#include "ui/main/hover_outline.h"
 #include "ui/main/page_editor.h"
 #include "ui/main/page_grids.h"
 #include "ui/shell/skin_pictures.h"
@@ -31,9 +32,14 @@ Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new
 
   grids_ = std::make_unique<PageGrids>(app_, *ui_);
   page_ = std::make_unique<PageEditor>(app_, *ui_);
-  skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->CoverText, *ui_->Background);
+  skins_ = std::make_unique<SkinPictures>(app_.State, *ui_->Picture1, *ui_->Background);
   notices_ = std::make_unique<FieldNotices>(*ui_);
   commands_ = std::make_unique<Commands>(app_, *ui_, *this, *skins_, this);
+  outline_ = std::make_unique<HoverOutline>(
+      ui_->ToolBar->findChildren<PictureButton*>(),
+      QList<QWidget*>{ui_->Background, ui_->ToolBar, ui_->PagesPane, ui_->WritingPart, ui_->LinksPart});
+  ui_->Panes->setStretchFactor(1, 1);
+  ui_->PagePane->setStretchFactor(0, 1);
   ConnectFields();
   NameSeparators();
 

@@ -17,6 +17,7 @@ namespace tavrel {
 
 class Commands;
 class FieldNotices;
+class HoverOutline;
 class PageEditor;
 class PageGrids;
 class SkinPictures;
@@ -82,6 +83,7 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<SkinPictures> skins_;
   std::unique_ptr<FieldNotices> notices_;
   std::unique_ptr<Commands> commands_;
+  std::unique_ptr<HoverOutline> outline_;
   QTimer* timer1_;
 };
 

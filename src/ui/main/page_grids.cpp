@@ -35,8 +35,8 @@ PageGrids::PageGrids(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
 void PageGrids::ClearLinks() {
   Grid& grid = *ui_.MSFlexGrid1;
   grid.Clear();
-  grid.SetHeading(kTextColumn, "Link text", Qt::AlignLeft);
-  grid.SetHeading(kTargetColumn, "Link to", Qt::AlignHCenter);
+  grid.SetHeading(kTextColumn, tr("Link text"), Qt::AlignLeft);
+  grid.SetHeading(kTargetColumn, tr("Link to"), Qt::AlignHCenter);
   const int text_width = grid.WidthOf("A HYPERLINK TO ANOTHER PAGE");
   const int target_width = grid.WidthOf("__LINK TO__");
   grid.setColumnWidth(kTextColumn, text_width);
@@ -88,9 +88,9 @@ void PageGrids::ClearPages() {
     grid.SetCellBackColor(page, kTitleColumn, kWhite);
     grid.SetCellBackColor(page, kNoteColumn, kWhite);
   }
-  grid.SetHeading(kPageColumn, "Page", Qt::AlignHCenter);
-  grid.SetHeading(kTitleColumn, "Title");
-  grid.SetHeading(kNoteColumn, "Notes");
+  grid.SetHeading(kPageColumn, tr("Page"), Qt::AlignHCenter);
+  grid.SetHeading(kTitleColumn, tr("Title"));
+  grid.SetHeading(kNoteColumn, tr("Notes"));
 
   grid.setColumnWidth(kPageColumn, grid.WidthOf("_PAGE_"));
   grid.scrollToTop();

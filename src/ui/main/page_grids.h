@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include <array>
 #include <string_view>
 
@@ -14,6 +16,8 @@ namespace tavrel {
 
 /// The two grids of the main window: the links of the page and the pages of the document.
 class PageGrids {
+  Q_DECLARE_TR_FUNCTIONS(PageGrids)
+
  public:
   PageGrids(App& app, Ui::Main& ui);
 

@@ -1,6 +1,7 @@
 #include "ui/planner/delete_plan.h"
 
 #include "core/planner/plan_file.h"
+#include "core/shell/program_folder.h"
 #include "ui/controls/program_control.h"
 #include "ui_delete_plan.h"
 
@@ -18,6 +19,7 @@ DeletePlan::DeletePlan(App& app, QWidget* parent)
 DeletePlan::~DeletePlan() = default;
 
 void DeletePlan::Form_Load() {
+  ReturnToProgramFolder(app_.State);
   ui_->List1->Fill(app_.State.ProgramFolder, kPlanExtension, app_.CodePageInUse());
 }
 

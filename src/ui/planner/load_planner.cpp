@@ -1,6 +1,7 @@
 #include "ui/planner/load_planner.h"
 
 #include "core/planner/plan_file.h"
+#include "core/shell/program_folder.h"
 #include "ui/controls/program_control.h"
 #include "ui_load_planner.h"
 
@@ -19,6 +20,7 @@ LoadPlanner::LoadPlanner(App& app, QWidget* parent)
 LoadPlanner::~LoadPlanner() = default;
 
 void LoadPlanner::Form_Load() {
+  ReturnToProgramFolder(app_.State);
   ui_->List1->Fill(app_.State.ProgramFolder, kPlanExtension, app_.CodePageInUse());
 }
 

@@ -1,17 +1,15 @@
 #include "ui/planner/plan_map.h"
 
 #include <QGridLayout>
-#include <QLabel>
 #include <QPainter>
 
 #include "core/planner/plan_pages.h"
-#include "ui/controls/body_field.h"
 
 namespace tavrel {
 namespace {
 
 /// The room between two cells, where an arrow has its place.
-constexpr int kGap = 16;
+constexpr int kGap = 14;
 constexpr qreal kHead = 4;
 
 /// An arrow across the gap beside a cell, from `start` towards `step`.
@@ -35,6 +33,8 @@ void DrawLinks(QPainter& painter, const PlanCell& cell, const QRectF& area) {
 }  // namespace
 
 PlanMap::PlanMap(QWidget* parent) : QWidget(parent) {
+  // West is on the left in every language.
+  setLayoutDirection(Qt::LeftToRight);
   auto* layout = new QGridLayout(this);
   layout->setContentsMargins(kGap, kGap, kGap, kGap);
   layout->setSpacing(kGap);
@@ -59,7 +59,7 @@ void PlanMap::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   for (const PlannerCell* cell : cells_) {
     // Without a text there is no page and no link.
-    const QColor colour = palette().color(cell->Shown().Text.empty() ? QPalette::Mid : QPalette::Highlight);
+    const QColor colour = palette().color(cell->IsPage() ? QPalette::Highlight : QPalette::Mid);
     painter.setPen(QPen(colour, 2));
     painter.setBrush(colour);
     DrawLinks(painter, cell->Shown(), cell->geometry());

@@ -6,6 +6,7 @@
 #include "core/planner/plan_pages.h"
 #include "core/shell/messages.h"
 #include "core/text/numbers.h"
+#include "core/text/run_time_error.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/program_control.h"
 #include "ui/controls/text_conversion.h"
@@ -64,12 +65,13 @@ void Planner::ConnectControls() {
 }
 
 void Planner::WatchTags() {
-  ui_->TagNotice->SetOwner("A page");
+  ui_->TagNotice->SetOwner(tr("A page"));
   for (LineField* text : text3_) {
     ui_->TagNotice->Watch(*text, {"</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
   }
   for (const PlannerCell* cell : ui_->Map->Cells()) {
-    ui_->TagNotice->Watch(cell->Text(), {"</text>", "<linktext>", "<linkto>", "<music>"});
+    ui_->TagNotice->Watch(cell->Text(),
+                          {"</text>", "<title>", "<note>", "</note>", "<linktext>", "<linkto>", "<music>"});
   }
 }
 
@@ -125,7 +127,12 @@ void Planner::Command5_Click() {
   SavePlanner(app_, this).exec();
   if (app_.State.PlanPath.empty()) return;
   ShowCaption();
-  SavePlan(ShownPlan(), app_.State, app_.System);
+  try {
+    SavePlan(ShownPlan(), app_.State, app_.System);
+  } catch (const FileError& error) {
+    // Ending the program would lose the plan.
+    app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, windowTitle().toStdString()});
+  }
 }
 
 void Planner::Command6_Click() {
@@ -142,7 +149,7 @@ void Planner::Timer1_Timer() {
 }
 
 void Planner::ShowCaption() {
-  setWindowTitle("Project Planner - " + ToText(PlanName(app_.State)));
+  setWindowTitle(tr("Project Planner - %1").arg(ToText(PlanName(app_.State))));
 }
 
 void Planner::ShowPlan(const Plan& plan) {

@@ -5,13 +5,14 @@
 #include <QLabel>
 #include <QPainter>
 
+#include "core/text/file_names.h"
 #include "ui/controls/body_field.h"
 #include "ui/controls/tick_box.h"
 
 namespace tavrel {
 namespace {
 
-constexpr qreal kSmallFont = 0.9;
+constexpr qreal kSmallFont = 0.85;
 constexpr int kMargin = 4;
 constexpr qreal kCorner = 5;
 constexpr int kLeastLines = 2;
@@ -26,10 +27,10 @@ QFont Scaled(QFont font, qreal factor) {
 PlannerCell::PlannerCell(std::size_t index, QWidget* parent)
     : QWidget(parent), index_(index), label_(new QLabel(this)), text_(new BodyField(this)) {
   setFont(Scaled(font(), kSmallFont));
-  north_ = AddTick("Check4", "North");
-  west_ = AddTick("Check1", "   West");
-  south_ = AddTick("Check3", "South");
-  east_ = AddTick("Check2", "East");
+  north_ = AddTick("Check4", tr("North"));
+  west_ = AddTick("Check1", tr("   West"));
+  south_ = AddTick("Check3", tr("South"));
+  east_ = AddTick("Check2", tr("East"));
   text_->setTabChangesFocus(true);
   text_->setFrameShape(QFrame::NoFrame);
   text_->setMinimumHeight(kLeastLines * text_->fontMetrics().lineSpacing() + 2 * kMargin);
@@ -51,8 +52,9 @@ TickBox* PlannerCell::AddTick(const QString& array, const QString& caption) {
 
 void PlannerCell::LayOut() {
   auto* layout = new QGridLayout(this);
-  layout->setContentsMargins(kMargin + 2, kMargin, kMargin + 2, kMargin);
-  layout->setSpacing(kMargin / 2);
+  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setHorizontalSpacing(0);
+  layout->setVerticalSpacing(kMargin / 2);
   layout->addWidget(label_, 0, 0);
   layout->addWidget(north_, 0, 1, Qt::AlignHCenter);
   layout->addWidget(text_, 1, 0, 1, 3);
@@ -70,6 +72,8 @@ void PlannerCell::NameControls() {
   bold.setBold(true);
   label_->setFont(bold);
   text_->setObjectName(QString("Text1_%1").arg(index_));
+  // Until the page is known.
+  NameForScreenReaders(tr("Text of cell %1").arg(index_ + 1), tr("Link from cell %1:").arg(index_ + 1));
 }
 
 void PlannerCell::SetCodePage(const CodePage& code_page) {
@@ -78,12 +82,13 @@ void PlannerCell::SetCodePage(const CodePage& code_page) {
 
 void PlannerCell::ShowLabel(const QString& page_number) {
   label_->setText(page_number);
-  text_->setAccessibleName(tr("Text of page %1").arg(page_number));
-  const std::array<std::pair<TickBox*, QString>, 4> ticks = {{{north_, tr("Page %1 links to the north")},
-                                                              {west_, tr("Page %1 links to the west")},
-                                                              {east_, tr("Page %1 links to the east")},
-                                                              {south_, tr("Page %1 links to the south")}}};
-  for (const auto& [tick, name] : ticks) tick->setAccessibleName(name.arg(page_number));
+  NameForScreenReaders(tr("Text of page %1").arg(page_number), tr("Link from page %1:").arg(page_number));
+}
+
+void PlannerCell::NameForScreenReaders(const QString& text, const QString& link) {
+  text_->setAccessibleName(text);
+  for (TickBox* tick : {north_, west_, south_, east_})
+    tick->setAccessibleName(link + " " + tick->text().trimmed());
 }
 
 void PlannerCell::Show(const PlanCell& cell) {
@@ -98,6 +103,10 @@ PlanCell PlannerCell::Shown() const {
   return {text_->Bytes(), west_->Value(), east_->Value(), south_->Value(), north_->Value()};
 }
 
+bool PlannerCell::IsPage() const {
+  return !TrimBlanks(text_->Bytes()).empty();
+}
+
 std::vector<QWidget*> PlannerCell::ControlsInOrder() const {
   return {north_, text_, west_, south_, east_};
 }
@@ -105,7 +114,7 @@ std::vector<QWidget*> PlannerCell::ControlsInOrder() const {
 void PlannerCell::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  const bool is_page = !text_->document()->isEmpty();
+  const bool is_page = IsPage();
   painter.setBrush(palette().color(QPalette::Base));
   painter.setPen(QPen(palette().color(is_page ? QPalette::Highlight : QPalette::Mid), is_page ? 1.5 : 1));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);

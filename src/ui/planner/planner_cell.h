@@ -28,6 +28,9 @@ class PlannerCell : public QWidget {
   void Show(const PlanCell& cell);
   PlanCell Shown() const;
 
+  /// Whether the cell's text makes a page; blanks alone do not.
+  bool IsPage() const;
+
   BodyField& Text() const { return *text_; }
 
   /// The controls that take the focus, as the eye meets them.
@@ -43,6 +46,7 @@ class PlannerCell : public QWidget {
   TickBox* AddTick(const QString& array, const QString& caption);
   void LayOut();
   void NameControls();
+  void NameForScreenReaders(const QString& text, const QString& link);
 
   std::size_t index_;
   QLabel* label_;

@@ -1,6 +1,7 @@
 #include "ui/planner/save_planner.h"
 
 #include "core/planner/plan_file.h"
+#include "core/shell/program_folder.h"
 #include "core/text/file_names.h"
 #include "ui/controls/file_question.h"
 #include "ui/controls/program_control.h"
@@ -20,8 +21,10 @@ SavePlanner::SavePlanner(App& app, QWidget* parent)
 SavePlanner::~SavePlanner() = default;
 
 void SavePlanner::Form_Load() {
+  ReturnToProgramFolder(app_.State);
   ui_->List1->Fill(app_.State.ProgramFolder, kPlanExtension, app_.CodePageInUse());
   ui_->Text1->SetBytes(NameInCodePage(PlanName(app_.State), app_.CodePageInUse()));
+  ui_->Text1->selectAll();
 }
 
 void SavePlanner::Command1_Click() {

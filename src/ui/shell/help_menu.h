@@ -18,7 +18,13 @@ class HelpMenu : public QObject {
   HelpMenu(App& app, SkinPictures& skins, QWidget* window);
 
  public slots:
+  void HelpHelp_Click();
+  void HelpWebSite_Click();
+  void HelpIpodSite_Click();
+  void HelpiTunesSite_Click();
+  void HelpEmail_Click();
   void HelpCustomise_Click();
+  void HelpAbout_Click();
 
  private:
   App& app_;

@@ -43,6 +43,7 @@ void RunningProgram::Fail(const std::exception& error) {
 }
 
 void RunningProgram::End() {
+  if (before_end_) before_end_();
   std::_Exit(EXIT_SUCCESS);
 }
 

@@ -18,6 +18,9 @@ class RunningProgram final : public ProgramControl {
   /// `store` brings what is typed but not yet stored into the document; Fail runs it first.
   void SetStoreTyped(std::function<void()> store) { store_typed_ = std::move(store); }
 
+  /// `remember` is run when the program ends at the user's wish.
+  void SetBeforeEnd(std::function<void()> remember) { before_end_ = std::move(remember); }
+
   /// Saves the open document beside its own file, or else in the home or the temporary folder, says what
   /// failed and where the copy is, and ends the program with status 1. A further error while the message
   /// stands changes nothing.
@@ -36,6 +39,7 @@ class RunningProgram final : public ProgramControl {
   Platform& platform_;
   MessageService& messages_;
   std::function<void()> store_typed_;
+  std::function<void()> before_end_;
   bool failing_ = false;
 };
 

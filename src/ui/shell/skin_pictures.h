@@ -4,21 +4,19 @@
 
 #include "core/document/global.h"
 
-class QWidget;
-
 namespace tavrel {
 
 class PictureArea;
 
-/// The background of the Backup dialog, "SkinBackup.jpg", whether skins are on or off; empty if there is none.
-QPixmap BackupSkin(const Global& global);
+/// The background of the Backup dialog, "SkinBackup.jpg" in the current folder, whether skins are on or off;
+/// empty if there is none.
+QPixmap BackupSkin();
 
 /// The background pictures of the main window: "Skin1.jpg" covers it while no document is open, "Skin2.jpg"
 /// lies behind the editor.
 class SkinPictures {
  public:
-  /// `cover_text` stands on the cover as long as that has no picture.
-  SkinPictures(const Global& global, PictureArea& cover, QWidget& cover_text, PictureArea& background);
+  SkinPictures(const Global& global, PictureArea& cover, PictureArea& background);
 
   /// With skins on, shows both; a missing file gives an empty picture.
   void LoadAtStart();
@@ -27,11 +25,8 @@ class SkinPictures {
   void ApplySetting();
 
  private:
-  void ShowOnCover(const QPixmap& picture);
-
   const Global& global_;
   PictureArea& cover_;
-  QWidget& cover_text_;
   PictureArea& background_;
 };
 

@@ -1,7 +1,5 @@
 #include "ui/shell/skins.h"
 
-#include <QStyle>
-
 #include "core/shell/settings.h"
 #include "ui/controls/program_control.h"
 #include "ui/controls/redraw.h"
@@ -12,7 +10,6 @@ namespace tavrel {
 Skins::Skins(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::Skins>()) {
   ui_->setupUi(this);
   PrepareControls();
-  ui_->Command1->setIcon(style()->standardIcon(QStyle::SP_DialogApplyButton));
   On(app_.Control, ui_->Command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
   Form_Load();
 }

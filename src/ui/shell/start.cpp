@@ -1,6 +1,7 @@
 #include "ui/shell/start.h"
 
 #include <QApplication>
+#include <QSettings>
 #include <QStandardPaths>
 
 #include <memory>
@@ -12,8 +13,11 @@
 #include "ui/controls/message_box.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/main/main_window.h"
+#include "ui/shell/first_start.h"
+#include "ui/shell/help_page.h"
+#include "ui/shell/look.h"
 #include "ui/shell/running_program.h"
-#include "ui/shell/sample_project.h"
+#include "ui/shell/window_memory.h"
 
 namespace tavrel {
 namespace {
@@ -23,7 +27,8 @@ void OpenProgramFolder(Global& global, Platform& platform) {
       FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
                         ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
   EnterProgramFolder(global.ProgramFolder);
-  if (IsFirstStart(global.ProgramFolder)) InstallSampleProject(global.ProgramFolder, platform);
+  if (IsFirstStart(global.ProgramFolder)) InstallFirstFiles(global.ProgramFolder, platform);
+  InstallHelpPage(global.ProgramFolder, platform);
 }
 
 }  // namespace
@@ -31,6 +36,7 @@ void OpenProgramFolder(Global& global, Platform& platform) {
 int RunTavrelWriter(QApplication& application) {
   QApplication::setApplicationName(kProgramName);
   QApplication::setQuitOnLastWindowClosed(false);
+  SetUpLook();
 
   const auto platform = MakeSystemPlatform();
   Global global;
@@ -38,6 +44,7 @@ int RunTavrelWriter(QApplication& application) {
   RunningProgram program(global, *platform, messages);
   App app{global, *platform, messages, program};
 
+  QSettings memory(QSettings::IniFormat, QSettings::UserScope, kProgramName, "windows");
   // The window outlives what runs in it: whatever fails, its fields can still be rescued.
   std::unique_ptr<Main> window;
   int status = 0;
@@ -47,8 +54,11 @@ int RunTavrelWriter(QApplication& application) {
     program.SetStoreTyped([&window] { window->StoreTyped(); });
     QObject::connect(window.get(), &Main::Closed, &application, &QCoreApplication::quit);
     window->Form_Load();
+    RestoreWindow(*window, memory);
+    program.SetBeforeEnd([&] { RememberWindow(*window, memory); });
     window->show();
     status = QApplication::exec();
+    RememberWindow(*window, memory);
   });
   return status;
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <optional>
 
 namespace tavrel::test {
 namespace {
@@ -12,6 +13,18 @@ TEST(FormatPage, WritesAtLeastThreeDigits) {
   EXPECT_EQ(FormatPage(42), "042");
   EXPECT_EQ(FormatPage(999), "999");
   EXPECT_EQ(FormatPage(1000), "1000");
+}
+
+TEST(FormatPage, WritesTheSignBeforeTheDigits) {
+  EXPECT_EQ(FormatPage(-1), "-001");
+  EXPECT_EQ(FormatPage(-42), "-042");
+  EXPECT_EQ(FormatPage(-7000), "-7000");
+}
+
+TEST(FormatPage, TakesNumbersBeyond32Bits) {
+  EXPECT_EQ(FormatPage(2147483648), "2147483648");
+  EXPECT_EQ(FormatPage(-2147483649), "-2147483649");
+  EXPECT_EQ(FormatPage(9223372036854775807), "9223372036854775807");
 }
 
 TEST(MusicLinkName, HasNoLeadingZeros) {
@@ -63,6 +76,34 @@ TEST(Value, IsHugeBeyondTheLargestNumber) {
 TEST(Value, IsNearZeroBelowTheSmallestNumber) {
   EXPECT_NEAR(Value("1e-999"), 0, 1e-300);
   EXPECT_NEAR(Value("-1e-999"), 0, 1e-300);
+}
+
+TEST(NumberIn, ReadsATextThatIsANumber) {
+  EXPECT_EQ(NumberIn("1"), 1);
+  EXPECT_EQ(NumberIn(" 0 "), 0);
+  EXPECT_EQ(NumberIn("   12   "), 12);
+  EXPECT_EQ(NumberIn("-3"), -3);
+  EXPECT_EQ(NumberIn("+2"), 2);
+  EXPECT_EQ(NumberIn("007"), 7);
+  EXPECT_EQ(NumberIn("2.5"), 2.5);
+  EXPECT_EQ(NumberIn(".5"), 0.5);
+  EXPECT_EQ(NumberIn("5."), 5);
+  EXPECT_EQ(NumberIn("25e-1"), 2.5);
+  EXPECT_EQ(NumberIn("1E+3"), 1000);
+}
+
+TEST(NumberIn, IsNothingForAnyOtherText) {
+  for (const char* text :
+       {"",  " ",  "x",  "1x",  "x1",  "1 2", "--1", "-",   "+",   "- 1", ".",     "1.2.3", "1e",
+        "e", "1,", "1-", "2e+", "\t1", "1\r", "1\n", "inf", "nan", "0x1", "\"1\"", "&H1",   "yes"}) {
+    EXPECT_EQ(NumberIn(text), std::nullopt) << text;
+  }
+}
+
+TEST(NumberIn, ReadsNumbersTooLargeOrTooSmallToHold) {
+  EXPECT_GT(NumberIn("1e999").value(), 1e300);
+  EXPECT_LT(NumberIn("-1e999").value(), -1e300);
+  EXPECT_NEAR(NumberIn("1e-999").value(), 0, 1e-300);
 }
 
 TEST(WholeValue, RoundsToTheNearestNumber) {
