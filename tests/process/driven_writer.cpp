@@ -3,12 +3,14 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QSplitter>
 #include <QTimer>
 
 #include <filesystem>
 #include <functional>
 #include <iostream>
 #include <new>
+#include <utility>
 
 #include "support/robot.h"
 #include "support/user.h"
@@ -51,7 +53,8 @@ void PlayWhenUp(QWidget& window, const QString& name, const std::function<void(Q
 }
 
 /// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder
-/// in a file's place and vanish moves the program's folder away.
+/// in a file's place and vanish moves the program's folder away; size=WIDTHxHEIGHT, panes=LEFT resizes the
+/// window and its list of pages, and tell-size prints how large they are.
 void Play(QMainWindow& window, const QString& command) {
   const QString argument = command.section('=', 1);
   if (command.startsWith("open=")) {
@@ -80,6 +83,15 @@ void Play(QMainWindow& window, const QString& command) {
     fs::rename(home, home.parent_path() / "vanished");
   } else if (command == "vanish") {
     fs::rename(fs::current_path(), fs::current_path().parent_path() / "vanished");
+  } else if (command.startsWith("size=")) {
+    window.resize(argument.section('x', 0, 0).toInt(), argument.section('x', 1).toInt());
+  } else if (command.startsWith("panes=")) {
+    auto& panes = Find<QSplitter>(window, "Panes");
+    const int width = panes.sizes().value(0) + panes.sizes().value(1);
+    panes.setSizes({argument.toInt(), width - argument.toInt()});
+  } else if (command == "tell-size") {
+    std::cout << "size: " << window.width() << "x" << window.height()
+              << " panes: " << Find<QSplitter>(window, "Panes").sizes().value(0) << std::endl;
   } else if (command == "exit") {
     ChooseMenu(window, "FileExit");
   } else if (command == "close") {
@@ -96,13 +108,20 @@ int main(int argc, char* argv[]) {
   AnswerMessages(robot);
 
   QStringList commands = QApplication::arguments().mid(1);
+  // A command's menus and dialogs run event loops of their own; the next command waits for their end.
+  bool playing = false;
   QTimer user;
   QObject::connect(&user, &QTimer::timeout, [&] {
     QMainWindow* window = MainWindow();
-    if (window == nullptr || commands.isEmpty()) return;
+    if (window == nullptr || commands.isEmpty() || std::exchange(playing, true)) return;
     const QString command = commands.takeFirst();
     QMetaObject::invokeMethod(
-        window, [window, command] { Play(*window, command); }, Qt::QueuedConnection);
+        window,
+        [window, command, &playing] {
+          Play(*window, command);
+          playing = false;
+        },
+        Qt::QueuedConnection);
   });
   user.start(50);
   return tavrel::RunTavrelWriter(application);

@@ -44,12 +44,74 @@ class ProcessTest : public testing::Test {
   std::string output_;
 };
 
-TEST_F(ProcessTest, TheFirstStartMakesTheFolderWithSettingsAndTheSampleProject) {
+TEST_F(ProcessTest, TheFirstStartMakesTheFolderWithAllThatBelongsIntoIt) {
   Run({"exit"});
   EXPECT_EQ(status_, 0);
   EXPECT_EQ(output_, "");
-  EXPECT_TRUE(home_.Has(folder_ / "tavrel.ini"));
-  EXPECT_TRUE(home_.Has(folder_ / "Writing for the iPod.dat"));
+  for (const char* name :
+       {"tavrel.ini", "Writing for the iPod.dat", "Skin1.jpg", "Skin2.jpg", "SkinBackup.jpg", "help.html"}) {
+    EXPECT_TRUE(home_.Has(folder_ / name)) << name;
+  }
+}
+
+TEST_F(ProcessTest, ALaterStartPutsBackTheHelpPageOnly) {
+  Run({"exit"});
+  for (const char* name : {"help.html", "Skin1.jpg", "Skin2.jpg", "SkinBackup.jpg"})
+    fs::remove(home_.Path() / folder_ / name);
+  Run({"exit"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_TRUE(home_.Has(folder_ / "help.html"));
+  for (const char* name : {"Skin1.jpg", "Skin2.jpg", "SkinBackup.jpg"})
+    EXPECT_FALSE(home_.Has(folder_ / name)) << name;
+}
+
+TEST_F(ProcessTest, FilesOfTheUsersOwnAreNeverReplaced) {
+  for (const char* name : {"Skin1.jpg", "help.html"}) home_.Write(folder_ / name, "mine");
+  Run({"exit"});
+  Run({"exit"});
+  for (const char* name : {"Skin1.jpg", "help.html"}) EXPECT_EQ(home_.Read(folder_ / name), "mine") << name;
+}
+
+TEST_F(ProcessTest, ADiskTooFullForTheHelpPageDoesNotKeepTheProgramFromStarting) {
+  Run({"exit"});
+  fs::remove(home_.Path() / folder_ / "help.html");
+  // No file may become larger than some kilobytes.
+  Run({"-c", "trap '' XFSZ; ulimit -f 64; exec \"$0\" exit", DRIVEN_WRITER}, "sh");
+  EXPECT_EQ(status_, 0);
+  EXPECT_FALSE(Says("message:")) << output_;
+}
+
+TEST_F(ProcessTest, TheWindowComesBackAsItWasWhenItWasClosed) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  Run({"open=Trio", "size=790x620", "panes=290", "tell-size", "close"});
+  const std::string told = output_;
+  EXPECT_TRUE(Says("size: 790x620 panes: ")) << output_;
+  Run({"open=Trio", "tell-size", "close"});
+  EXPECT_EQ(output_, told);
+}
+
+TEST_F(ProcessTest, TheWindowComesBackAsItWasWhenTheProgramWasLeft) {
+  home_.Write(folder_ / "Trio.dat", kTrio);
+  Run({"size=790x620", "exit"});
+  EXPECT_TRUE(home_.Has("home/.config/Tavrel Writer/windows.ini"));
+  Run({"tell-size", "exit"});
+  EXPECT_TRUE(Says("size: 790x620")) << output_;
+}
+
+TEST_F(ProcessTest, TheWindowsMemoryIsKeptOutOfTheProgramsFolder) {
+  Run({"close"});
+  const std::string settings = home_.Read(folder_ / "tavrel.ini");
+  const auto files = home_.Files();
+  Run({"size=790x620", "close"});
+  EXPECT_EQ(home_.Read(folder_ / "tavrel.ini"), settings);
+  EXPECT_EQ(home_.Files().size(), files.size());
+}
+
+TEST_F(ProcessTest, ADamagedMemoryOfTheWindowIsNoObstacle) {
+  home_.Write("home/.config/Tavrel Writer/windows.ini", "[Main\ngeometry=@ByteArray(\\x1\xFF\0Panes=7");
+  Run({"tell-size", "close"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_TRUE(Says("size: 1024x700")) << output_;
 }
 
 TEST_F(ProcessTest, ADeletedSampleProjectStaysDeleted) {

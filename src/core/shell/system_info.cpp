@@ -22,7 +22,7 @@ std::filesystem::path FindTool(const Platform& platform) {
   if (GetKeyValue(platform, RegistryRoot::LocalMachine, kFolderKey, kFolderValue, value)) {
     const std::filesystem::path tool = PathFromName(value + kToolInFolder, code_page);
     std::error_code error;
-    if (std::filesystem::exists(tool, error)) return tool;
+    if (std::filesystem::is_regular_file(tool, error)) return tool;
   }
   throw RunTimeError("There is no system information tool.");
 }

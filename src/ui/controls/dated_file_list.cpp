@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 
 #include <map>
 #include <string>
@@ -41,6 +42,13 @@ void DatedFileList::Fill(const std::filesystem::path& folder, std::string_view e
       files_.push_back(file.Name);
     }
   }
+}
+
+QSize DatedFileList::minimumSizeHint() const {
+  constexpr int kRowLength = kListedNameLength + 10;  // the name, the date and some air
+  const int row = fontMetrics().horizontalAdvance(QString(kRowLength, 'x'));
+  const int scroll_bar = verticalScrollBar()->sizeHint().width();
+  return {row + scroll_bar + 2 * frameWidth(), QListWidget::minimumSizeHint().height()};
 }
 
 void DatedFileList::mouseDoubleClickEvent(QMouseEvent* event) {

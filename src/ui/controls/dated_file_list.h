@@ -28,6 +28,8 @@ class DatedFileList : public QListWidget {
   /// The bare name of the selected file; empty if none is. Names cut to the same 25 characters stay apart.
   std::filesystem::path SelectedFile() const;
 
+  QSize minimumSizeHint() const override;
+
  signals:
   void DblClick();
 

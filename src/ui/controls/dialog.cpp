@@ -1,6 +1,7 @@
 #include "ui/controls/dialog.h"
 
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPushButton>
 
 #include <algorithm>
@@ -18,8 +19,22 @@ void Dialog::PrepareControls() {
   for (LineField* field : findChildren<LineField*>()) field->SetCodePage(app_.CodePageInUse());
   for (FolderList* list : findChildren<FolderList*>()) list->SetPlatform(app_.System);
   for (FileList* list : findChildren<FileList*>()) list->SetPlatform(app_.System);
-  // Wrapped labels need more height in larger fonts than the form gives them.
-  if (hasHeightForWidth()) resize(width(), std::max(height(), heightForWidth(width())));
+}
+
+void Dialog::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  KeepRoomForText();
+}
+
+void Dialog::showEvent(QShowEvent* event) {
+  KeepRoomForText();
+  QDialog::showEvent(event);
+}
+
+void Dialog::KeepRoomForText() {
+  const QSize least = layout()->totalMinimumSize();
+  const int tall = layout()->hasHeightForWidth() ? layout()->minimumHeightForWidth(width()) : 0;
+  setMinimumSize(least.width(), std::max(least.height(), tall));
 }
 
 void Dialog::keyPressEvent(QKeyEvent* event) {

@@ -19,8 +19,15 @@ class Dialog : public QDialog {
   void PrepareControls();
 
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
   App& app_;
+
+ private:
+  /// Wrapped text needs more height in a narrow window or a large font, which the layout alone does not see
+  /// to.
+  void KeepRoomForText();
 };
 
 }  // namespace tavrel

@@ -24,9 +24,11 @@ bool ElidedLabel::event(QEvent* event) {
 
 void ElidedLabel::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
+  // As the toolkit's own label does, by the direction of the text and not of the window.
+  const auto direction = text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+  const int flags = static_cast<int>(QStyle::visualAlignment(direction, alignment()) | Qt::AlignAbsolute);
   const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
-  painter.drawItemText(contentsRect(), static_cast<int>(alignment()), palette(), isEnabled(), shown,
-                       foregroundRole());
+  painter.drawItemText(contentsRect(), flags, palette(), isEnabled(), shown, foregroundRole());
 }
 
 }  // namespace tavrel

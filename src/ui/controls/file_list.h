@@ -28,6 +28,11 @@ class FileList : public QListWidget {
   /// The names of the files shown, in their order.
   const std::vector<std::filesystem::path>& Files() const { return files_; }
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
  private:
   const Platform* platform_ = nullptr;
   std::string extension_;

@@ -8,7 +8,8 @@ namespace tavrel {
 
 std::filesystem::path AskForFile(App& app, QWidget* parent, std::string_view typed,
                                  std::string_view extension) {
-  const std::string name = CleanName(typed);
+  std::string name = CleanName(typed);
+  std::erase(name, '\0');
   if (name.empty()) return {};
   const std::filesystem::path file = PathFromName(name + std::string(extension), app.CodePageInUse());
   std::error_code error;

@@ -18,6 +18,7 @@ void LengthBar::SetWidth(int twips) {
   const int width = std::clamp(twips, 0, kFullWidth);
   if (width == width_) return;
   width_ = width;
+  setAccessibleDescription(tr("%1 of %2 characters").arg(width_).arg(kFullWidth));
   update();
 }
 
@@ -29,6 +30,10 @@ void LengthBar::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(Qt::NoPen);
+  if (isRightToLeft()) {
+    painter.translate(width(), 0);
+    painter.scale(-1, 1);
+  }
   const auto draw = [&](int twips, const QColor& colour) {
     painter.setBrush(colour);
     painter.drawRoundedRect(QRectF(0, 0, twips / kTwipsPerPixel, kHeight), kHeight / 2.0, kHeight / 2.0);

@@ -1,42 +1,55 @@
 #include "ui/controls/link_label.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
 
 namespace tavrel {
+namespace {
 
-LinkLabel::LinkLabel(QWidget* parent) : QLabel(parent) {
-  setTextFormat(Qt::PlainText);
+constexpr int kMargin = 2;
+
+/// Many dark palettes leave links in a blue that is meant for white paper.
+QColor ReadableLink(const QPalette& palette) {
+  constexpr int kDark = 128;
+  constexpr int kReadable = 160;
+  const QColor link = palette.color(QPalette::Link);
+  const bool on_dark = palette.color(QPalette::Window).lightness() < kDark;
+  return on_dark && link.lightness() < kReadable
+             ? QColor::fromHsl(link.hslHue(), link.hslSaturation(), kReadable + 30)
+             : link;
+}
+
+}  // namespace
+
+LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
-  setForegroundRole(QPalette::Link);
   QFont underlined = font();
   underlined.setUnderline(true);
   setFont(underlined);
 }
 
-void LinkLabel::mouseReleaseEvent(QMouseEvent* event) {
-  QLabel::mouseReleaseEvent(event);
-  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) emit Click();
+QSize LinkLabel::sizeHint() const {
+  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * kMargin, 2 * kMargin);
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {
-  const int key = event->key();
-  if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space) {
-    emit Click();
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
   } else {
-    QLabel::keyPressEvent(event);
+    QAbstractButton::keyPressEvent(event);
   }
 }
 
-void LinkLabel::paintEvent(QPaintEvent* event) {
-  QLabel::paintEvent(event);
+void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
+  QStylePainter painter(this);
+  painter.setPen(ReadableLink(palette()));
+  painter.drawText(rect(), Qt::AlignCenter, text());
   if (!hasFocus()) return;
   QStyleOptionFocusRect focus;
   focus.initFrom(this);
-  QStylePainter(this).drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+  painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
 }
 
 }  // namespace tavrel

@@ -1,21 +1,20 @@
 #pragma once
 
-#include <QLabel>
+#include <QAbstractButton>
 
 namespace tavrel {
 
 /// A line of text that can be clicked, or chosen with Tab and Enter, like a link on a page.
-class LinkLabel : public QLabel {
+class LinkLabel : public QAbstractButton {
   Q_OBJECT
 
  public:
   explicit LinkLabel(QWidget* parent = nullptr);
 
- signals:
-  void Click();
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
-  void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 };

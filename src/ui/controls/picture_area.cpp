@@ -5,6 +5,10 @@
 #include <QPainter>
 #include <QStyle>
 
+#include <utility>
+
+#include "ui/controls/picture_file.h"
+
 namespace tavrel {
 namespace {
 
@@ -30,24 +34,32 @@ bool NeedsPlate(const QWidget& widget) {
 QRect Covered(const QWidget& widget) {
   const auto* label = qobject_cast<const QLabel*>(&widget);
   if (label == nullptr) return widget.rect();
-  const QSize text = label->sizeHint().boundedTo(label->size());
   const auto direction = label->text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
-  return QStyle::alignedRect(direction, label->alignment(), text, label->rect());
+  const int flags = static_cast<int>(QStyle::visualAlignment(direction, label->alignment())) |
+                    (label->wordWrap() ? Qt::TextWordWrap : 0);
+  const QRect text = label->fontMetrics().boundingRect(label->contentsRect(), flags, label->text());
+  return text.intersected(label->rect());
 }
 
 }  // namespace
 
 PictureArea::PictureArea(QWidget* parent) : QWidget(parent) {}
 
-void PictureArea::SetPicture(const QPixmap& picture) {
-  picture_ = picture;
+const QPixmap& PictureArea::Picture() {
+  if (!to_decode_.isEmpty()) picture_ = DecodePicture(std::exchange(to_decode_, {}));
+  return picture_;
+}
+
+void PictureArea::SetPicture(const QByteArray& file_bytes) {
+  to_decode_ = file_bytes;
+  picture_ = QPixmap();
   scaled_ = QPixmap();
   update();
 }
 
 void PictureArea::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  if (picture_.isNull()) return;
+  if (Picture().isNull()) return;
   const QSize wanted = size() * devicePixelRatioF();
   if (scaled_.size() != wanted) {
     scaled_ = FillingPart(picture_, wanted).scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -69,6 +81,7 @@ void PictureArea::PaintPlates(QPainter& painter) const {
   for (const QWidget* child : findChildren<QWidget*>()) {
     if (!NeedsPlate(*child)) continue;
     const QRect place = Covered(*child).translated(child->mapTo(this, QPoint()));
+    if (place.isEmpty()) continue;
     painter.drawRoundedRect(place.adjusted(-kMargin, -kMargin / 2, kMargin, kMargin / 2), kCorner, kCorner);
   }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QPixmap>
 #include <QWidget>
 
@@ -14,8 +15,12 @@ class PictureArea : public QWidget {
  public:
   explicit PictureArea(QWidget* parent = nullptr);
 
-  const QPixmap& Picture() const { return picture_; }
-  void SetPicture(const QPixmap& picture);
+  /// The picture; empty if there is none.
+  const QPixmap& Picture();
+
+  /// Shows the picture in the bytes of a file; none if they hold none. They are decoded when it is first
+  /// seen.
+  void SetPicture(const QByteArray& file_bytes);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -23,6 +28,7 @@ class PictureArea : public QWidget {
  private:
   void PaintPlates(QPainter& painter) const;
 
+  QByteArray to_decode_;
   QPixmap picture_;
   QPixmap scaled_;
 };

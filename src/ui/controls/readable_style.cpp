@@ -10,13 +10,38 @@ bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
+QString MessageIcon(QStyle::StandardPixmap icon) {
+  switch (icon) {
+    case QStyle::SP_MessageBoxInformation:
+      return ":/icons/message-information.png";
+    case QStyle::SP_MessageBoxQuestion:
+      return ":/icons/message-question.png";
+    case QStyle::SP_MessageBoxWarning:
+      return ":/icons/message-warning.png";
+    case QStyle::SP_MessageBoxCritical:
+      return ":/icons/message-critical.png";
+    default:
+      return {};
+  }
+}
+
 }  // namespace
+
+bool ReadableStyle::IsSystemStyle() const {
+  return baseStyle()->name() != "fusion";
+}
+
+QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                  const QWidget* widget) const {
+  const QString own = IsSystemStyle() ? QString() : MessageIcon(icon);
+  return own.isEmpty() ? QProxyStyle::standardIcon(icon, option, widget) : QIcon(own);
+}
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                                   const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   const bool box = element == PE_IndicatorCheckBox;
-  if (!box || !IsDark(option->palette) || baseStyle()->name() != "fusion") return;
+  if (!box || !IsDark(option->palette) || IsSystemStyle()) return;
   QColor outline = option->palette.color(QPalette::WindowText);
   outline.setAlphaF(0.55F);
   painter->save();

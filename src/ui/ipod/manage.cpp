@@ -76,16 +76,16 @@ void Manage::Form_Load() {
 void Manage::FindPod() {
   const std::optional<Pod> pod = tavrel::FindPod(app_.System, app_.System.Volumes());
   if (pod && remote_->Browser.Show(pod->Notes)) {
-    ShowRemote(tr(" iPod folders: "), *ui_->ManagerTab);
+    ShowRemote(tr(" iPod folders: "), tr("iPod folders"), *ui_->ManagerTab);
   } else {
     remote_->Browser.Show(SystemRoot(app_.System));
-    ShowRemote(tr(" Remote folders:"), *ui_->BrowserTab);
+    ShowRemote(tr(" Remote folders:"), tr("Remote folders"), *ui_->BrowserTab);
   }
 }
 
-void Manage::ShowRemote(const QString& caption, QWidget& tab) {
+void Manage::ShowRemote(const QString& caption, const QString& spoken_name, QWidget& tab) {
   ui_->Label1_1->setText(caption);
-  ui_->List2->setAccessibleName(caption.trimmed().chopped(1));
+  ui_->List2->setAccessibleName(spoken_name);
   ui_->SSTab1->setCurrentWidget(&tab);
 }
 

@@ -51,7 +51,7 @@ class Manage : public Dialog {
   void FindPod();
   void RefreshFolders();
   void Refresh(Side& side);
-  void ShowRemote(const QString& caption, QWidget& tab);
+  void ShowRemote(const QString& caption, const QString& spoken_name, QWidget& tab);
   void Copy(const Side& from, const Side& to);
   bool IsWritable(const std::filesystem::path& folder);
   void Delete(const Side& side);

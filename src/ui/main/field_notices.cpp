@@ -21,13 +21,13 @@ FieldNotices::FieldNotices(Ui::Main& ui) : ui_(ui) {
     tags->Watch(field, spoiling_tags);
   };
   watch(*ui_.Text3, {"</title>", "<note>", "<text>", "<link>", "<music>"});
-  watch(*ui_.Text4, {"</note>", "<text>", "<link>", "<music>"});
-  watch(*ui_.Text5, {"</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
+  watch(*ui_.Text4, {"</note>", "<title>", "<text>", "<link>", "<music>"});
+  watch(*ui_.Text5, {"</linktext>", "<title>", "</link>", "<linktext>", "<linkto>", "<music>"});
   watch(ui_.Combo1->Field(), {"</linkto>", "</link>", "<linktext>", "<linkto>", "<music>"});
-  watch(*ui_.Text6, {"</music>", "<music>"});
+  watch(*ui_.Text6, {"</music>", "<title>", "<music>"});
   watch(ui_.Combo2->Field(), {"</music>"});
   connect(ui_.Text1, &BodyField::CharactersReplaced, this, &FieldNotices::TellReplaced);
-  tags->Watch(*ui_.Text1, {"</text>", "<linktext>", "<linkto>", "<music>"});
+  tags->Watch(*ui_.Text1, {"</text>", "<title>", "<note>", "</link>", "<linktext>", "<linkto>", "<music>"});
 }
 
 void FieldNotices::TellReplaced(int count) {

@@ -7,6 +7,7 @@
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
 #include "core/shell/settings.h"
+#include "ui/controls/font_size.h"
 #include "ui/controls/program_control.h"
 #include "ui/controls/redraw.h"
 #include "ui/controls/text_conversion.h"
@@ -22,6 +23,7 @@ namespace tavrel {
 namespace {
 
 constexpr int kTimer1Interval = 1000;
+constexpr qreal kTitleFont = 2.8;
 
 }  // namespace
 
@@ -38,6 +40,7 @@ Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new
   outline_ = std::make_unique<HoverOutline>(
       ui_->ToolBar->findChildren<PictureButton*>(),
       QList<QWidget*>{ui_->Background, ui_->ToolBar, ui_->PagesPane, ui_->WritingPart, ui_->LinksPart});
+  ScaleFont(*ui_->CoverTitle, kTitleFont);
   ui_->Panes->setStretchFactor(1, 1);
   ui_->PagePane->setStretchFactor(0, 1);
   ConnectFields();
@@ -176,6 +179,7 @@ void Main::HideControls() {
 void Main::ShowDocumentName() {
   const QString name = ToText(DocumentName(app_.State));
   ui_->Label7->setText(name);
+  ui_->Label7->setAccessibleName(tr("Project name: %1").arg(name));
   setWindowTitle(name + " - " + kProgramName);
 }
 

@@ -26,6 +26,7 @@ PageGrids::PageGrids(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
   ui_.MSFlexGrid1->SetSize(kLastLink, 2);
   ui_.MSFlexGrid2->SetCodePage(app_.CodePageInUse());
   ui_.MSFlexGrid2->SetSize(kLastPage, 3);
+  ui_.MSFlexGrid2->setMinimumWidth(5 * ui_.MSFlexGrid2->WidthOf("_PAGE_"));
   // Title and note share what the page numbers and the scroll bar leave, however wide the pane is.
   QHeaderView* heading = ui_.MSFlexGrid2->horizontalHeader();
   heading->setSectionResizeMode(kTitleColumn, QHeaderView::Stretch);

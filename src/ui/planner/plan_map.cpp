@@ -62,7 +62,7 @@ void PlanMap::paintEvent(QPaintEvent* /*event*/) {
     const QColor colour = palette().color(cell->IsPage() ? QPalette::Highlight : QPalette::Mid);
     painter.setPen(QPen(colour, 2));
     painter.setBrush(colour);
-    DrawLinks(painter, cell->Shown(), cell->geometry());
+    DrawLinks(painter, cell->Ticks(), cell->geometry());
   }
 }
 

@@ -67,11 +67,11 @@ void Planner::ConnectControls() {
 void Planner::WatchTags() {
   ui_->TagNotice->SetOwner(tr("A page"));
   for (LineField* text : text3_) {
-    ui_->TagNotice->Watch(*text, {"</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
+    ui_->TagNotice->Watch(*text, {"<title>", "</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
   }
   for (const PlannerCell* cell : ui_->Map->Cells()) {
-    ui_->TagNotice->Watch(cell->Text(),
-                          {"</text>", "<title>", "<note>", "</note>", "<linktext>", "<linkto>", "<music>"});
+    ui_->TagNotice->Watch(cell->Text(), {"</text>", "<title>", "<note>", "</note>", "</link>",
+                                         "<linktext>", "<linkto>", "<music>"});
   }
 }
 
@@ -97,8 +97,11 @@ void Planner::Form_Load() {
 }
 
 void Planner::Command1_Click() {
+  // Whoever comes here has left the fields of the editor, perhaps by way of another program.
+  editor_.UpdateGrid1();
   editor_.SavePage();
   hide();
+  main_window_->setWindowState(main_window_->windowState() & ~Qt::WindowMinimized);
   const Plan plan = ShownPlan();
   if (!CanInsertPlan(plan)) return;
   if (!app_.Messages.Show(main_window_, messages::PlanOverwritesPages(PlanTop(plan)))) return;
@@ -126,9 +129,9 @@ void Planner::Command4_Click() {
 void Planner::Command5_Click() {
   SavePlanner(app_, this).exec();
   if (app_.State.PlanPath.empty()) return;
-  ShowCaption();
   try {
     SavePlan(ShownPlan(), app_.State, app_.System);
+    ShowCaption();
   } catch (const FileError& error) {
     // Ending the program would lose the plan.
     app_.Messages.Show(this, {error.what(), Buttons::Ok, Icon::Exclamation, windowTitle().toStdString()});

@@ -4,9 +4,12 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
+#include <QTextBlock>
 
-#include "core/text/file_names.h"
+#include <algorithm>
+
 #include "ui/controls/body_field.h"
+#include "ui/controls/font_size.h"
 #include "ui/controls/tick_box.h"
 
 namespace tavrel {
@@ -17,16 +20,11 @@ constexpr int kMargin = 4;
 constexpr qreal kCorner = 5;
 constexpr int kLeastLines = 2;
 
-QFont Scaled(QFont font, qreal factor) {
-  font.setPointSizeF(font.pointSizeF() * factor);
-  return font;
-}
-
 }  // namespace
 
 PlannerCell::PlannerCell(std::size_t index, QWidget* parent)
     : QWidget(parent), index_(index), label_(new QLabel(this)), text_(new BodyField(this)) {
-  setFont(Scaled(font(), kSmallFont));
+  ScaleFont(*this, kSmallFont);
   north_ = AddTick("Check4", tr("North"));
   west_ = AddTick("Check1", tr("   West"));
   south_ = AddTick("Check3", tr("South"));
@@ -100,11 +98,19 @@ void PlannerCell::Show(const PlanCell& cell) {
 }
 
 PlanCell PlannerCell::Shown() const {
-  return {text_->Bytes(), west_->Value(), east_->Value(), south_->Value(), north_->Value()};
+  PlanCell cell = Ticks();
+  cell.Text = text_->Bytes();
+  return cell;
+}
+
+PlanCell PlannerCell::Ticks() const {
+  return {{}, west_->Value(), east_->Value(), south_->Value(), north_->Value()};
 }
 
 bool PlannerCell::IsPage() const {
-  return !TrimBlanks(text_->Bytes()).empty();
+  const QString first_line = text_->document()->firstBlock().text();
+  const bool has_text = std::any_of(first_line.begin(), first_line.end(), [](QChar c) { return c != u' '; });
+  return has_text || text_->blockCount() > 1;
 }
 
 std::vector<QWidget*> PlannerCell::ControlsInOrder() const {

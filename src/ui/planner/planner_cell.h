@@ -27,6 +27,8 @@ class PlannerCell : public QWidget {
 
   void Show(const PlanCell& cell);
   PlanCell Shown() const;
+  /// The same without the text.
+  PlanCell Ticks() const;
 
   /// Whether the cell's text makes a page; blanks alone do not.
   bool IsPage() const;

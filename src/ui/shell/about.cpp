@@ -6,6 +6,7 @@
 #include "core/shell/program_info.h"
 #include "core/shell/system_info.h"
 #include "core/text/run_time_error.h"
+#include "ui/controls/font_size.h"
 #include "ui/controls/message_box.h"
 #include "ui/controls/program_control.h"
 #include "ui/shell/look.h"
@@ -16,15 +17,17 @@ namespace tavrel {
 namespace {
 
 constexpr int kIconSize = 64;
+constexpr qreal kTitleFont = 2;
 
 }  // namespace
 
 About::About(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::About>()) {
   ui_->setupUi(this);
   PrepareControls();
+  ScaleFont(*ui_->lblTitle, kTitleFont);
   On(app_.Control, ui_->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
   On(app_.Control, ui_->cmdSysInfo, &QPushButton::clicked, this, [this] { cmdSysInfo_Click(); });
-  On(app_.Control, ui_->Label3, &LinkLabel::Click, this, [this] { Label3_Click(); });
+  On(app_.Control, ui_->Label3, &LinkLabel::clicked, this, [this] { Label3_Click(); });
   Form_Load();
 }
 
@@ -32,9 +35,10 @@ About::~About() = default;
 
 void About::Form_Load() {
   setWindowTitle(tr("About %1").arg(kProgramName));
-  ui_->lblVersion->setText(QString::fromStdString(VersionText()));
+  ui_->lblVersion->setText(tr("Version %1").arg(QString::fromStdString(VersionNumber())));
   ui_->lblTitle->setText(kProgramName);
   ui_->Label3->setText(kHomePage);
+  ui_->cmdOK->setFocus();
   ui_->picIcon->setPixmap(ProgramIcon().pixmap(kIconSize));
 }
 

@@ -32,7 +32,8 @@ void HelpMenu::HelpiTunesSite_Click() {
 }
 
 void HelpMenu::HelpEmail_Click() {
-  if (!app_.System.OpenMail(kSupportMail)) app_.Messages.Show(window_, messages::CannotOpen(kSupportMail));
+  const bool opened = app_.System.OpenMail(std::string("mailto:") + kSupportAddress);
+  if (!opened) app_.Messages.Show(window_, messages::CannotOpen(kSupportAddress));
 }
 
 void HelpMenu::HelpAbout_Click() {

@@ -6,10 +6,25 @@
 #include <system_error>
 
 #include "core/shell/program_info.h"
+#include "core/text/run_time_error.h"
+#include "ui/controls/text_conversion.h"
 #include "ui/shell/look.h"
 
 namespace tavrel {
 namespace {
+
+/// The page's first line. It names the version that it describes.
+std::string FirstLine() {
+  return "<!DOCTYPE html><!-- Tavrel Writer " + VersionNumber() + " -->";
+}
+
+/// Whether a file is this program's page for another version. A page of the user's own is not.
+bool IsOutdated(const std::filesystem::path& file) {
+  QFile page(ToText(file));
+  if (!page.open(QIODevice::ReadOnly)) return false;
+  const std::string first_line = page.readLine().trimmed().toStdString();
+  return first_line.starts_with("<!DOCTYPE html><!-- Tavrel Writer ") && first_line != FirstLine();
+}
 
 QByteArray Resource(const QString& name) {
   QFile resource(":/help/" + name);
@@ -21,7 +36,8 @@ QByteArray Resource(const QString& name) {
 
 std::string HelpPage() {
   InitResources();
-  const QString page = QString::fromUtf8(Resource(kHelpPage));
+  QString page = QString::fromUtf8(Resource(kHelpPage));
+  page.replace(0, page.indexOf('\n'), QString::fromStdString(FirstLine()));
   static const QRegularExpression picture(R"re(src="help/([^"]+)")re");
   QString result;
   qsizetype copied = 0;
@@ -36,7 +52,12 @@ std::string HelpPage() {
 void InstallHelpPage(const std::filesystem::path& program_folder, Platform& platform) {
   const std::filesystem::path file = program_folder / kHelpPage;
   std::error_code error;
-  if (!std::filesystem::exists(file, error)) platform.WriteWholeFile(file, HelpPage());
+  if (std::filesystem::exists(file, error) && !IsOutdated(file)) return;
+  try {
+    platform.WriteWholeFile(file, HelpPage());
+  } catch (const FileError&) {
+    // The browser will say that the page is missing.
+  }
 }
 
 }  // namespace tavrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include <QByteArray>
 
 #include "core/document/global.h"
 
@@ -8,9 +8,9 @@ namespace tavrel {
 
 class PictureArea;
 
-/// The background of the Backup dialog, "SkinBackup.jpg" in the current folder, whether skins are on or off;
-/// empty if there is none.
-QPixmap BackupSkin();
+/// The bytes of the Backup dialog's background, "SkinBackup.jpg" in the current folder, whether skins are on
+/// or off; none if there is no such file.
+QByteArray BackupSkin();
 
 /// The background pictures of the main window: "Skin1.jpg" covers it while no document is open, "Skin2.jpg"
 /// lies behind the editor.

@@ -1,3 +1,5 @@
+#include <QBuffer>
+
 #include <gtest/gtest.h>
 
 #include "ui/controls/length_bar.h"
@@ -6,13 +8,21 @@
 namespace tavrel::test {
 namespace {
 
-QPixmap RedWithBlueEdges() {
+/// The bytes of a picture file without loss.
+QByteArray FileOf(const QImage& image) {
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  EXPECT_TRUE(image.save(&buffer, "PNG"));
+  return bytes;
+}
+
+QByteArray RedWithBlueEdges() {
   QImage image(300, 100, QImage::Format_RGB32);
   image.fill(Qt::blue);
   for (int x = 100; x < 200; ++x) {
     for (int y = 0; y < 100; ++y) image.setPixelColor(x, y, Qt::red);
   }
-  return QPixmap::fromImage(image);
+  return FileOf(image);
 }
 
 TEST(PictureAreaTest, ThePictureFillsTheAreaAndIsCutAtItsEdges) {
@@ -58,7 +68,7 @@ TEST(PictureAreaTest, AVeryNarrowPictureFillsTheAreaToo) {
   narrow.fill(Qt::red);
   PictureArea area;
   area.resize(1000, 600);
-  area.SetPicture(QPixmap::fromImage(narrow));
+  area.SetPicture(FileOf(narrow));
   EXPECT_EQ(area.grab().toImage().pixelColor(999, 599), QColor(Qt::red));
 }
 

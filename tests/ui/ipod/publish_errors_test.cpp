@@ -157,6 +157,13 @@ class WatchingPlatform final : public Platform {
     platform_.CopyPlainFile(from, to);
   }
   void FlushVolumeOf(const std::filesystem::path& folder) override { platform_.FlushVolumeOf(folder); }
+  bool OpenInBrowser(const std::string& target) override { return platform_.OpenInBrowser(target); }
+  bool OpenMail(const std::string& address) override { return platform_.OpenMail(address); }
+  void StartProgram(const std::filesystem::path& program) override { platform_.StartProgram(program); }
+  std::optional<RegistryValue> ReadRegistry(RegistryRoot root, const std::string& key,
+                                            const std::string& name) const override {
+    return platform_.ReadRegistry(root, key, name);
+  }
 
  private:
   Platform& platform_;

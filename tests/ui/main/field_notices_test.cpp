@@ -96,8 +96,17 @@ TEST_F(FieldNoticesTest, AnotherFieldsTagIsToldToo) {
   EXPECT_EQ(TagNotice(), "");
   TypeInto(Body(), "hear <music>");
   EXPECT_EQ(TagNotice(), "A page takes \"<music>\" in this field for its own markup.");
-  TypeInto(Body(), "see <link>, <note> and <b>");
+  TypeInto(Body(), "see <link> and <b>");
   EXPECT_EQ(TagNotice(), "");
+}
+
+TEST_F(FieldNoticesTest, TheTagOfAnEarlierElementIsTakenForItIfThatIsEmpty) {
+  for (const std::string tag : {"<title>", "<note>"}) {
+    TypeInto(Body(), QString::fromStdString(tag));
+    EXPECT_EQ(TagNotice(), "A page takes \"" + tag + "\" in this field for its own markup.");
+  }
+  TypeInto(Body(), "<link></link>");
+  EXPECT_EQ(TagNotice(), "A page cannot keep what follows \"</link>\" in this field.");
 }
 
 }  // namespace

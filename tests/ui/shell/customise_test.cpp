@@ -78,5 +78,17 @@ TEST_F(CustomiseTest, IsReachedByKeyboardAndScreenReaders) {
   });
 }
 
+TEST_F(CustomiseTest, NoTextIsCutOff) {
+  Customise([](QWidget& dialog) {
+    const auto& text = Find<QLabel>(dialog, "Label1");
+    EXPECT_GE(text.height(), text.heightForWidth(text.width()));
+    const auto& enable = Find<QCheckBox>(dialog, "Check1");
+    EXPECT_GE(enable.width(), enable.sizeHint().width());
+    for (const QWidget* control : {static_cast<const QWidget*>(&text), static_cast<const QWidget*>(&enable)})
+      EXPECT_TRUE(dialog.rect().contains(control->geometry()));
+    dialog.close();
+  });
+}
+
 }  // namespace
 }  // namespace tavrel::test

@@ -1,7 +1,10 @@
 #include <QAbstractButton>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QTranslator>
 
+#include <map>
 #include <vector>
 
 #include "support/window_test.h"
@@ -113,6 +116,73 @@ TEST_F(MessageBoxesTest, TheMainWindowShowsThem) {
   });
   ChooseMenu(window, "FileClose");
   EXPECT_EQ(text, "Nothing to close!    ");
+}
+
+using Words = std::map<QByteArray, QString>;
+
+/// Knows some of the program's messages in another language, while it lives.
+class Translation : public QTranslator {
+ public:
+  explicit Translation(Words words) : words_(std::move(words)) { QCoreApplication::installTranslator(this); }
+  ~Translation() override { QCoreApplication::removeTranslator(this); }
+
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* text, const char* /*note*/,
+                    int /*count*/) const override {
+    if (QByteArray(context) != "Messages") return {};
+    const auto found = words_.find(text);
+    return found == words_.end() ? QString() : found->second;
+  }
+
+ private:
+  Words words_;
+};
+
+class TranslatedBoxesTest : public MessageBoxesTest {
+ protected:
+  /// The text and the title that a person sees.
+  QString TextAndTitle(const Message& message) {
+    QString seen;
+    Show(message, [&](QMessageBox& box) {
+      seen = box.text() + "|" + box.windowTitle();
+      Press(box, QMessageBox::Ok);
+    });
+    return seen;
+  }
+};
+
+TEST_F(TranslatedBoxesTest, TextAndTitleAreTranslated) {
+  const Translation german(
+      Words{{"Nothing to save!    ", "Nichts zu sichern!"}, {"Oops!", QString::fromUtf8("Hoppla \u00FC")}});
+  EXPECT_EQ(TextAndTitle(kRefusal), QString::fromUtf8("Nichts zu sichern!|Hoppla \u00FC"));
+  EXPECT_EQ(TextAndTitle(messages::ProjectSaved()), "Project saved...    |Tavrel Writer");
+}
+
+TEST_F(TranslatedBoxesTest, ATextIsTranslatedWithItsLineEndsAndBlanks) {
+  const Translation german(
+      Words{{"Closing the document does not save it,    \r\nso any changes will be lost. Continue?    ",
+             "A\r\nB"}});
+  EXPECT_EQ(TextAndTitle(kQuestion), "A\nB|Tavrel Writer");
+}
+
+TEST_F(TranslatedBoxesTest, WhatIsFilledInStandsInTheTranslation) {
+  const Translation german(Words{{"Overwrite pages%1 to%2?    ", "Bis%2, von%1?"},
+                                 {"Drive %1 not available!  ", "Laufwerk %1 fehlt"}});
+  EXPECT_EQ(TextAndTitle(messages::PlanOverwritesPages(2)), "Bis 27, von 2?|Save");
+  EXPECT_EQ(TextAndTitle(messages::DriveNotAvailable("D:")), "Laufwerk D: fehlt|Warning");
+}
+
+TEST_F(TranslatedBoxesTest, ANameWithAPercentSignStaysAsItIs) {
+  EXPECT_EQ(TextAndTitle(messages::DeleteFolderQuestion("/%1/%2/100%")),
+            "Are you sure you want to delete...\n/%1/%2/100%|Please confirm");
+  const Translation german(Words{{"Are you sure you want to delete...\r\n%1", "%1 entfernen?"}});
+  EXPECT_EQ(TextAndTitle(messages::DeleteFolderQuestion("/%1/%2/100%")),
+            "/%1/%2/100% entfernen?|Please confirm");
+}
+
+TEST_F(TranslatedBoxesTest, WhatIsFilledInIsNotTranslated) {
+  const Translation german(Words{{"Oops!", "Hoppla!"}});
+  EXPECT_EQ(TextAndTitle(messages::DriveNotAvailable("Oops!")), "Drive Oops! not available!  |Warning");
 }
 
 }  // namespace

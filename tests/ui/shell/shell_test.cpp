@@ -55,7 +55,7 @@ void ShellTest::WritePicture(const std::string& name, const QColor& colour) {
   fs::last_write_time(file, LongAgo() + std::chrono::seconds(++pictures_written_));
 }
 
-std::string ShellTest::Shown(const PictureArea& area) {
+std::string ShellTest::Shown(PictureArea& area) {
   if (area.Picture().isNull()) return "empty";
   const QImage picture = area.Picture().toImage();
   return NameOf(picture.pixelColor(picture.width() / 2, picture.height() / 2));

@@ -40,7 +40,7 @@ class ShellTest : public WindowTest {
   PictureArea& Background() { return Find<PictureArea>(Window(), "Background"); }
 
   /// "red", "green" or "blue" by the picture's middle; "empty" without a picture.
-  static std::string Shown(const PictureArea& area);
+  static std::string Shown(PictureArea& area);
 
  private:
   int pictures_written_ = 0;

@@ -144,14 +144,37 @@ TEST_F(SkinsTest, CustomiseReturnsToTheProgramsFolder) {
   EXPECT_EQ(std::filesystem::current_path(), Folder.Path());
 }
 
-TEST_F(SkinsTest, TheWordsOnTheCoverGiveWayToAPicture) {
-  Start();
-  EXPECT_TRUE(Find<QWidget>(Window(), "CoverText").isVisible());
+TEST_F(SkinsTest, TheWordsOnTheCoverStayOverAPicture) {
+  auto& words = Find<QWidget>(Window(), "CoverText");
+  EXPECT_TRUE(words.isVisible());
   WritePicture("Skin1.jpg", Qt::red);
   CustomiseWith(true);
-  EXPECT_FALSE(Find<QWidget>(Window(), "CoverText").isVisible());
+  EXPECT_TRUE(words.isVisible());
   CustomiseWith(false);
-  EXPECT_TRUE(Find<QWidget>(Window(), "CoverText").isVisible());
+  EXPECT_TRUE(words.isVisible());
+}
+
+TEST_F(SkinsTest, WithoutFilesNothingVisibleChanges) {
+  WriteSettings("1");
+  Start();
+  Settle();
+  const QImage before = Window().grab().toImage();
+  CustomiseWith(true);
+  Settle();
+  EXPECT_EQ(Window().grab().toImage(), before);
+}
+
+TEST_F(SkinsTest, OneFileAloneGoesAndComesBack) {
+  WriteSettings("1");
+  WritePicture("Skin1.jpg", Qt::red);
+  Start();
+  EXPECT_EQ(Shown(Cover()), "red");
+  CustomiseWith(false);
+  EXPECT_EQ(Shown(Cover()), "empty");
+  EXPECT_EQ(Shown(Background()), "empty");
+  CustomiseWith(true);
+  EXPECT_EQ(Shown(Cover()), "red");
+  EXPECT_EQ(Shown(Background()), "empty");
 }
 
 }  // namespace
