@@ -15,8 +15,8 @@
 
 namespace tavrel::test {
 
-/// A whole job in the real windows: a project is made, written, changed, planned, saved, backed up, published, copied to a
-/// pretend iPod and imported back.
+/// A whole job in the real windows: a project is made, written, changed, planned, saved, backed up,
+/// published, copied to a pretend iPod and imported back.
 class Tour {
  public:
   /// Pictures and the tour's own program folder go into `output`, which is emptied first.

@@ -70,8 +70,8 @@ void Planner::WatchTags() {
     ui_->TagNotice->Watch(*text, {"<title>", "</linktext>", "</link>", "<linktext>", "<linkto>", "<music>"});
   }
   for (const PlannerCell* cell : ui_->Map->Cells()) {
-    ui_->TagNotice->Watch(cell->Text(), {"</text>", "<title>", "<note>", "</note>", "</link>",
-                                         "<linktext>", "<linkto>", "<music>"});
+    ui_->TagNotice->Watch(cell->Text(), {"</text>", "<title>", "<note>", "</note>", "</link>", "<linktext>",
+                                         "<linkto>", "<music>"});
   }
 }
 

@@ -23,7 +23,8 @@ class Planner : public Dialog {
   Q_OBJECT
 
  public:
-  /// `main_window` is where its question is asked. The planner is a window of its own, which may go behind it.
+  /// `main_window` is where its question is asked. The planner is a window of its own, which may go behind
+  /// it.
   Planner(App& app, Editor& editor, QWidget* main_window);
   ~Planner() override;
 

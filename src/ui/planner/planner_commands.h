@@ -1,8 +1,8 @@
 #pragma once
 
-#include <memory>
-
 #include <QObject>
+
+#include <memory>
 
 #include "ui/app.h"
 

@@ -10,7 +10,8 @@ class SavePlanner;
 
 namespace tavrel {
 
-/// Asks for the name under which the plan is to be saved. Only `PlanPath` is set: to that file, or to nothing.
+/// Asks for the name under which the plan is to be saved. Only `PlanPath` is set: to that file, or to
+/// nothing.
 class SavePlanner : public Dialog {
   Q_OBJECT
 

@@ -11,8 +11,8 @@ namespace tavrel {
 /// projects.
 std::string HelpPage();
 
-/// Puts the help page into the program's folder if it is not there, or there from another version. A folder that cannot be written to is no
-/// reason not to start.
+/// Puts the help page into the program's folder if it is not there, or there from another version. A folder
+/// that cannot be written to is no reason not to start.
 void InstallHelpPage(const std::filesystem::path& program_folder, Platform& platform);
 
 }  // namespace tavrel
