@@ -5,18 +5,16 @@
 #include <QPainter>
 #include <QStyle>
 
-#include <utility>
-
 #include "ui/controls/picture_file.h"
 
 namespace tavrel {
 namespace {
 
 /// The middle part of a picture that has the shape of an area.
-QPixmap FillingPart(const QPixmap& picture, const QSize& area) {
-  QRect part(QPoint(), area.scaled(picture.size(), Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
-  part.moveCenter(picture.rect().center());
-  return picture.copy(part);
+QRect FillingPart(const QSize& picture, const QSize& area) {
+  QRect part(QPoint(), area.scaled(picture, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+  part.moveCenter(QRect(QPoint(), picture).center());
+  return part;
 }
 
 /// A form sets this property on a widget whose parts share one plate.
@@ -46,27 +44,31 @@ QRect Covered(const QWidget& widget) {
 PictureArea::PictureArea(QWidget* parent) : QWidget(parent) {}
 
 const QPixmap& PictureArea::Picture() {
-  if (!to_decode_.isEmpty()) picture_ = DecodePicture(std::exchange(to_decode_, {}));
+  if (picture_.isNull() && !file_bytes_.isEmpty()) {
+    picture_ = DecodePicture(file_bytes_);
+    if (picture_.isNull()) file_bytes_.clear();
+  }
   return picture_;
 }
 
 void PictureArea::SetPicture(const QByteArray& file_bytes) {
-  to_decode_ = file_bytes;
+  file_bytes_ = file_bytes;
   picture_ = QPixmap();
-  scaled_ = QPixmap();
   update();
+}
+
+void PictureArea::hideEvent(QHideEvent* event) {
+  QWidget::hideEvent(event);
+  // A picture takes many times the memory of its file.
+  picture_ = QPixmap();
 }
 
 void PictureArea::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
   if (Picture().isNull()) return;
-  const QSize wanted = size() * devicePixelRatioF();
-  if (scaled_.size() != wanted) {
-    scaled_ = FillingPart(picture_, wanted).scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    scaled_.setDevicePixelRatio(devicePixelRatioF());
-  }
   QPainter painter(this);
-  painter.drawPixmap(0, 0, scaled_);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawPixmap(rect(), picture_, FillingPart(picture_.size(), size()));
   PaintPlates(painter);
 }
 

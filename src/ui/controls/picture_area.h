@@ -18,19 +18,19 @@ class PictureArea : public QWidget {
   /// The picture; empty if there is none.
   const QPixmap& Picture();
 
-  /// Shows the picture in the bytes of a file; none if they hold none. They are decoded when it is first
+  /// Shows the picture in the bytes of a file; none if they hold none. It is decoded only while it can be
   /// seen.
   void SetPicture(const QByteArray& file_bytes);
 
  protected:
+  void hideEvent(QHideEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
  private:
   void PaintPlates(QPainter& painter) const;
 
-  QByteArray to_decode_;
+  QByteArray file_bytes_;
   QPixmap picture_;
-  QPixmap scaled_;
 };
 
 }  // namespace tavrel
