@@ -1,3 +1,5 @@
+#include <QApplication>
+
 #include "ui/planner/planner_test.h"
 
 namespace tavrel::test {
@@ -43,6 +45,29 @@ TEST_F(PlannerBesideEditorTest, ALinkTypedInTheMainWindowOutlivesAnInsertElsewhe
   EXPECT_EQ(State.Page(999),
             "<title>Last</title><text>Omega</text>"
             "<link><linktext>Home</linktext><linkto>001</linkto></link>");
+}
+
+TEST_F(PlannerBesideEditorTest, ALinkTypedBeforeGoingToAnotherProgramOutlivesAnInsertToo) {
+  StartPlanning();
+  ActivateWindow(Window());
+  ClickRow(PagesGrid(), 999);
+  TypeInto(LinkText(), "Home");
+  TypeInto(LinkTarget(), "001");
+  QApplication::setActiveWindow(nullptr);
+  ActivateWindow(PlannerWindow());
+  Insert();
+  EXPECT_EQ(LinkText().Bytes(), "Home");
+  EXPECT_EQ(State.Page(999),
+            "<title>Last</title><text>Omega</text>"
+            "<link><linktext>Home</linktext><linkto>001</linkto></link>");
+}
+
+TEST_F(PlannerBesideEditorTest, InsertBringsBackAnEditorThatWasMinimised) {
+  StartPlanning();
+  Window().showMinimized();
+  ActivateWindow(PlannerWindow());
+  Insert();
+  EXPECT_FALSE(Window().isMinimized());
 }
 
 /// The document is closed while the planner stays open.

@@ -150,6 +150,27 @@ TEST_F(FailingSavePlannerTest, AFolderOfThatNameStays) {
   ExpectToldAndKept();
 }
 
+TEST_F(FailingSavePlannerTest, TheCaptionKeepsTheNameOfThePlanLastSaved) {
+  StartPlanning();
+  SavePlanAs("first");
+  System.Files.FailAt(Operation::Write, 1, std::errc::no_space_on_device);
+  SavePlanAs("second");
+  ASSERT_EQ(Messages.Shown.size(), 1U);
+  EXPECT_EQ(PlannerWindow().windowTitle(), "Project Planner - first");
+  EXPECT_FALSE(Folder.Has("second.pln"));
+}
+
+TEST_F(FailingSavePlannerTest, ANameOfNothingButANulIsNoName) {
+  StartPlanning();
+  Play("Command5", "SavePlanner", [](QWidget& dialog) {
+    Find<LineField>(dialog, "Text1").setText(QString(QChar(0)));
+    Click(dialog, "Command1");
+    EXPECT_TRUE(dialog.isVisible());
+    Click(dialog, "Command2");
+  });
+  EXPECT_FALSE(Folder.Has(".pln"));
+}
+
 class FailingPlanWriteTest : public FailingSavePlannerTest, public testing::WithParamInterface<Operation> {};
 
 TEST_P(FailingPlanWriteTest, TheOldPlanStays) {
