@@ -25,6 +25,8 @@ QColor ReadableLink(const QPalette& palette) {
 LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
+  // An address is read from the left in every language.
+  setLayoutDirection(Qt::LeftToRight);
   QFont underlined = font();
   underlined.setUnderline(true);
   setFont(underlined);
