@@ -5,11 +5,11 @@
 #include <QMetaMethod>
 #include <QMimeData>
 #include <QTextBlock>
-#include <QToolTip>
 
 #include <algorithm>
 #include <memory>
 
+#include "ui/controls/replaced_notice.h"
 #include "ui/controls/text_conversion.h"
 
 namespace tavrel {
@@ -156,7 +156,7 @@ void BodyField::TellReplaced(int count) {
   if (isSignalConnected(QMetaMethod::fromSignal(&BodyField::CharactersReplaced))) {
     emit CharactersReplaced(count);
   } else {
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), ReplacedNotice(count), this);
+    ShowReplacedNotice(*this, count);
   }
 }
 

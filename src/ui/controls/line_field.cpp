@@ -9,13 +9,13 @@
 #include <QMenu>
 #include <QMetaMethod>
 #include <QMimeData>
-#include <QToolTip>
 
 #include <limits>
 #include <memory>
 
 #include "core/text/numbers.h"
 #include "ui/controls/focus.h"
+#include "ui/controls/replaced_notice.h"
 #include "ui/controls/text_conversion.h"
 
 namespace tavrel {
@@ -118,7 +118,7 @@ void LineField::TellReplaced(int count) {
   if (isSignalConnected(QMetaMethod::fromSignal(&LineField::CharactersReplaced))) {
     emit CharactersReplaced(count);
   } else {
-    QToolTip::showText(mapToGlobal(rect().bottomLeft()), ReplacedNotice(count), this);
+    ShowReplacedNotice(*this, count);
   }
 }
 

@@ -25,8 +25,6 @@ QColor ReadableLink(const QPalette& palette) {
 LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);
-  // An address is read from the left in every language.
-  setLayoutDirection(Qt::LeftToRight);
   QFont underlined = font();
   underlined.setUnderline(true);
   setFont(underlined);
@@ -47,7 +45,8 @@ void LinkLabel::keyPressEvent(QKeyEvent* event) {
 void LinkLabel::paintEvent(QPaintEvent* /*event*/) {
   QStylePainter painter(this);
   painter.setPen(ReadableLink(palette()));
-  painter.drawText(rect(), Qt::AlignCenter, text());
+  // An address is read from the left in every language.
+  painter.drawText(rect(), Qt::AlignCenter | Qt::TextForceLeftToRight, text());
   if (!hasFocus()) return;
   QStyleOptionFocusRect focus;
   focus.initFrom(this);

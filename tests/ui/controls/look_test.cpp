@@ -64,6 +64,18 @@ TEST(LookTest, ALinkKeepsItsColourOnALightWindow) {
   EXPECT_LE(Lightness(link).first, QColor(Qt::darkBlue).lightness() + 10);
 }
 
+TEST(LookTest, AnAddressIsReadFromTheLeftInAMirroredWindow) {
+  const auto seen = [](Qt::LayoutDirection direction) {
+    QApplication::setLayoutDirection(direction);
+    LinkLabel link;
+    link.setText("https://example.org/");
+    link.resize(link.sizeHint());
+    return link.grab().toImage();
+  };
+  const QImage mirrored = seen(Qt::RightToLeft);
+  EXPECT_EQ(mirrored, seen(Qt::LeftToRight));
+}
+
 TEST(LookTest, TheLengthBarTellsItsLengthInWords) {
   LengthBar bar;
   bar.SetWidth(1200);
