@@ -50,6 +50,9 @@ class Platform {
   /// Whether the system hides a file or folder from people.
   virtual bool IsHidden(const std::filesystem::path& file) const = 0;
 
+  /// Whether no file can have a name here, or the system would take it for something else.
+  virtual bool RefusesName(const std::filesystem::path& name) const = 0;
+
   /// Writes a file whole or not at all: on any failure the old file is untouched and nothing else is left.
   /// What it has written is on the disk when it returns. Throws FileError.
   virtual void WriteWholeFile(const std::filesystem::path& file, std::string_view bytes) = 0;

@@ -122,6 +122,9 @@ class UnixPlatform final : public Platform {
 
   bool IsHidden(const fs::path& file) const override { return file.filename().native().starts_with('.'); }
 
+  /// What no name can hold here never gets into a name.
+  bool RefusesName(const fs::path& /*name*/) const override { return false; }
+
   void WriteWholeFile(const fs::path& file, std::string_view bytes) override {
     tavrel::WriteWholeFile(SystemFiles(), file, bytes);
   }

@@ -16,13 +16,14 @@ class FakePlatform final : public Platform {
   std::vector<Volume> FakeVolumes;
   std::set<std::string> NotReady;  ///< names of volumes that cannot be read
   std::set<std::filesystem::path> NotWritable;
-  bool FlushesVolumes = true;                  ///< whether FlushVolumeOf takes its time
-  std::string SystemVolume = "c:";             ///< name of the system's own volume
-  bool HasBrowser = true;                      ///< whether there is something that opens pages and messages
-  std::vector<std::string> Opened;             ///< pages and messages
-  std::filesystem::path OpenedIn;              ///< the folder that was current when the last one was opened
-  std::vector<std::filesystem::path> Started;  ///< programs
-  bool StartsPrograms = true;                  ///< whether they start
+  std::set<std::filesystem::path> RefusedNames;  ///< names that no file can have
+  bool FlushesVolumes = true;                    ///< whether FlushVolumeOf takes its time
+  std::string SystemVolume = "c:";               ///< name of the system's own volume
+  bool HasBrowser = true;                        ///< whether there is something that opens pages and messages
+  std::vector<std::string> Opened;               ///< pages and messages
+  std::filesystem::path OpenedIn;                ///< the folder that was current when the last one was opened
+  std::vector<std::filesystem::path> Started;    ///< programs
+  bool StartsPrograms = true;                    ///< whether they start
   std::map<std::string, RegistryValue> Registry;  ///< values of the local machine by "KEY|NAME"
   FailingFiles Files;
 
@@ -31,6 +32,7 @@ class FakePlatform final : public Platform {
   bool IsReady(const Volume& volume) const override { return !NotReady.contains(volume.Name); }
   std::error_code WhyNotWritable(const std::filesystem::path& folder) const override;
   bool IsSystemVolume(const Volume& volume) const override { return volume.Name == SystemVolume; }
+  bool RefusesName(const std::filesystem::path& name) const override { return RefusedNames.contains(name); }
   bool IsHidden(const std::filesystem::path& file) const override;
   void WriteWholeFile(const std::filesystem::path& file, std::string_view bytes) override;
   void WritePlainFile(const std::filesystem::path& file, std::string_view bytes) override;

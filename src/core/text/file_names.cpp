@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "core/text/plain_ascii.h"
+#include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
@@ -57,11 +58,19 @@ fs::path PathFromName(std::string_view name, const CodePage& code_page) {
   return {characters};
 }
 
+fs::path PathFromTypedName(std::string_view name, const Platform& platform) {
+  fs::path path = PathFromName(name, platform.SystemCodePage());
+  if (platform.RefusesName(path)) {
+    throw FileError(path, "could not be created", std::make_error_code(std::errc::invalid_argument));
+  }
+  return path;
+}
+
 std::string NameInCodePage(const fs::path& name, const CodePage& code_page) {
   try {
     return code_page.Encode(name.u32string());
   } catch (const std::exception&) {
-    return PlainAscii(name.string());
+    return PlainAscii(name.native());
   }
 }
 

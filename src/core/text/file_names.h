@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/platform.h"
 #include "core/text/code_page.h"
 
 namespace tavrel {
@@ -19,6 +20,9 @@ std::string CleanName(std::string_view typed);
 
 /// A file's path from a name in the code page, without NUL characters, which no file name can hold.
 std::filesystem::path PathFromName(std::string_view name, const CodePage& code_page);
+
+/// The same for a name that a person typed. Throws FileError if the system has no such names.
+std::filesystem::path PathFromTypedName(std::string_view name, const Platform& platform);
 
 /// A file name in the code page; characters that it does not hold become "?".
 std::string NameInCodePage(const std::filesystem::path& name, const CodePage& code_page);

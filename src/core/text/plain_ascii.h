@@ -1,16 +1,20 @@
 #pragma once
 
-#include <algorithm>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace tavrel {
 
 /// Bytes for a message when their encoding cannot be trusted: everything beyond plain ASCII becomes "?".
-inline std::string PlainAscii(std::string bytes) {
-  std::replace_if(
-      bytes.begin(), bytes.end(), [](char c) { return (c & '\x80') != 0; }, '?');
-  return bytes;
+template <typename Character>
+std::string PlainAscii(const std::basic_string<Character>& text) {
+  constexpr std::make_unsigned_t<Character> kLast = 0x7F;
+  std::string plain;
+  for (const auto c : text) {
+    plain += static_cast<std::make_unsigned_t<Character>>(c) <= kLast ? static_cast<char>(c) : '?';
+  }
+  return plain;
 }
 
 /// The beginning of a text in double quotes, for a message.

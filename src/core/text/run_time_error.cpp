@@ -15,21 +15,28 @@ std::string NextStep(const std::error_code& error) {
     return "Look whether the file or its folder was moved or renamed.";
   if (error == std::errc::is_a_directory) return "A folder has that name. Rename it or choose another name.";
   if (error == std::errc::filename_too_long) return "Choose a shorter name.";
+  if (error == std::errc::invalid_argument) return "Choose another name.";
   return "Check the disk and try again.";
+}
+
+/// What the system says of an error, in English like the rest of the message. Its own words for errors that
+/// only it knows are in an encoding of its own.
+std::string Reason(const std::error_code& error) {
+  return PlainAscii(error.default_error_condition().message());
 }
 
 }  // namespace
 
 FileError::FileError(const std::filesystem::path& file, const std::string& attempt,
                      const std::error_code& error)
-    : RunTimeError(PathText(file) + "\n" + attempt + ": " + error.message() + ".\n" + NextStep(error)) {}
+    : RunTimeError(PathText(file) + "\n" + attempt + ": " + Reason(error) + ".\n" + NextStep(error)) {}
 
 std::string PathText(const std::filesystem::path& path) {
   try {
     const std::u8string text = std::filesystem::path(path.u32string()).u8string();
     return {text.begin(), text.end()};
   } catch (const std::exception&) {
-    return PlainAscii(path.string());
+    return PlainAscii(path.native());
   }
 }
 

@@ -11,7 +11,7 @@ std::filesystem::path AskForFile(App& app, QWidget* parent, std::string_view typ
   std::string name = CleanName(typed);
   std::erase(name, '\0');
   if (name.empty()) return {};
-  const std::filesystem::path file = PathFromName(name + std::string(extension), app.CodePageInUse());
+  const std::filesystem::path file = PathFromTypedName(name + std::string(extension), app.System);
   std::error_code error;
   const bool exists = std::filesystem::exists(app.State.ProgramFolder / file, error);
   if (exists && !app.Messages.Show(parent, messages::FileExists())) return {};

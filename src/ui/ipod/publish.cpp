@@ -49,8 +49,7 @@ void Publish::Command2_Click() {
                                .BackgroundMusic = ui_->Check2->isChecked()};
   try {
     const Hourglass hourglass;
-    PublishNotes(app_.State, app_.System, side_->Folder() / PathFromName(name, app_.CodePageInUse()),
-                 options);
+    PublishNotes(app_.State, app_.System, side_->Folder() / PathFromTypedName(name, app_.System), options);
   } catch (const FileError& error) {
     ShowError(error);
     return;

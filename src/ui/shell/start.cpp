@@ -52,7 +52,7 @@ int RunTavrelWriter(QApplication& application) {
     OpenProgramFolder(global, *platform);
     window = std::make_unique<Main>(app);
     program.SetStoreTyped([&window] { window->StoreTyped(); });
-    QObject::connect(window.get(), &Main::Closed, &application, &QCoreApplication::quit);
+    QObject::connect(window.get(), &Main::Closed, &application, [] { QCoreApplication::exit(); });
     window->Form_Load();
     RestoreWindow(*window, memory);
     program.SetBeforeEnd([&] { RememberWindow(*window, memory); });

@@ -1,0 +1,1 @@
+// Gives the precompiled headers a file to be compiled with.
