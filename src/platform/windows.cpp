@@ -108,9 +108,12 @@ class WindowsPlatform final : public Platform {
 
   bool IsReady(const Volume& volume) const override {
     const NoSystemMessages quiet;
-    std::error_code error;
-    const fs::directory_iterator entries(volume.Root, error);
-    return !error;
+    WIN32_FIND_DATAW entry;
+    const HANDLE entries = ::FindFirstFileW((volume.Root / L"*").c_str(), &entry);
+    // A disk may be without any files.
+    if (entries == INVALID_HANDLE_VALUE) return ::GetLastError() == ERROR_FILE_NOT_FOUND;
+    ::FindClose(entries);
+    return true;
   }
 
   std::error_code WhyNotWritable(const fs::path& folder) const override {
@@ -120,7 +123,10 @@ class WindowsPlatform final : public Platform {
                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     if (handle == INVALID_HANDLE_VALUE) return LastSystemError();
     ::CloseHandle(handle);
-    return {};
+    // The right to add files to a folder is the one to write to a file.
+    std::error_code ignored;
+    return fs::is_directory(folder, ignored) ? std::error_code()
+                                             : std::make_error_code(std::errc::not_a_directory);
   }
 
   bool IsSystemVolume(const Volume& volume) const override {

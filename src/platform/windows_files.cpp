@@ -97,6 +97,11 @@ std::error_code FlushOpened(const std::wstring& name) {
   return error;
 }
 
+/// A file that may not be written to, or that another program keeps to itself, was not written just now.
+bool IsNotWritable(const std::error_code& error) {
+  return error.value() == ERROR_ACCESS_DENIED || error.value() == ERROR_SHARING_VIOLATION;
+}
+
 std::error_code FlushFilesIn(const fs::path& folder) {
   std::error_code error;
   for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end;
@@ -104,8 +109,7 @@ std::error_code FlushFilesIn(const fs::path& folder) {
     std::error_code ignored;
     if (!entry->is_regular_file(ignored)) continue;
     const std::error_code flushed = FlushOpened(entry->path().native());
-    // A file that may not be written was not written just now either.
-    if (flushed && flushed != std::errc::permission_denied) return flushed;
+    if (flushed && !IsNotWritable(flushed)) return flushed;
   }
   return error;
 }

@@ -3,6 +3,7 @@
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QSettings>
 #include <QSplitter>
 #include <QTimer>
 
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include "support/robot.h"
+#include "support/system_look.h"
 #include "support/user.h"
 #include "ui/shell/start.h"
 
@@ -99,11 +101,19 @@ void Play(QMainWindow& window, const QString& command) {
   }
 }
 
+/// Not every system lets the environment say where programs keep what they remember.
+void KeepSettingsApart() {
+  const QString folder = qEnvironmentVariable("DRIVEN_WRITER_SETTINGS");
+  if (!folder.isEmpty()) QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder);
+}
+
 }  // namespace
 
 /// The program itself, with a user who plays the commands given as arguments once the main window is up.
 int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
+  TakeSystemFont();
+  KeepSettingsApart();
   Robot robot;
   AnswerMessages(robot);
 

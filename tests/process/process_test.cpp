@@ -1,58 +1,13 @@
-#include <QProcess>
-#include <QProcessEnvironment>
-#include <QStringList>
+#include "process/process_test.h"
 
 #include <algorithm>
-#include <gtest/gtest.h>
 
 #include "support/fixtures.h"
-#include "support/temporary_folder.h"
 
 namespace tavrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kPatience = 60000;
-
-class ProcessTest : public testing::Test {
- protected:
-  void SetUp() override { fs::create_directory(home_.Path() / "home"); }
-
-  /// Runs the program to its end while its user plays the commands.
-  void Run(const QStringList& commands, const QString& program = DRIVEN_WRITER) {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", QString::fromStdString((home_.Path() / "home").string()));
-    environment.insert("TMPDIR", QString::fromStdString((home_.Path() / "temporary").string()));
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
-    environment.remove("XDG_CONFIG_HOME");
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(QString::fromStdString(home_.Path().string()));
-    process.start(program, commands);
-    ASSERT_TRUE(process.waitForFinished(kPatience)) << "the program does not end";
-    ASSERT_EQ(process.exitStatus(), QProcess::NormalExit);
-    status_ = process.exitCode();
-    output_ = process.readAllStandardOutput().toStdString();
-  }
-
-  bool Says(const std::string& text) const { return output_.find(text) != std::string::npos; }
-
-  const fs::path folder_ = fs::path("home") / "Documents" / "Tavrel Writer";
-  TemporaryFolder home_;
-  int status_ = -1;
-  std::string output_;
-};
-
-TEST_F(ProcessTest, TheFirstStartMakesTheFolderWithAllThatBelongsIntoIt) {
-  Run({"exit"});
-  EXPECT_EQ(status_, 0);
-  EXPECT_EQ(output_, "");
-  for (const char* name :
-       {"tavrel.ini", "Writing for the iPod.dat", "Skin1.jpg", "Skin2.jpg", "SkinBackup.jpg", "help.html"}) {
-    EXPECT_TRUE(home_.Has(folder_ / name)) << name;
-  }
-}
 
 TEST_F(ProcessTest, ALaterStartPutsBackTheHelpPageOnly) {
   Run({"exit"});
@@ -70,15 +25,6 @@ TEST_F(ProcessTest, FilesOfTheUsersOwnAreNeverReplaced) {
   Run({"exit"});
   Run({"exit"});
   for (const char* name : {"Skin1.jpg", "help.html"}) EXPECT_EQ(home_.Read(folder_ / name), "mine") << name;
-}
-
-TEST_F(ProcessTest, ADiskTooFullForTheHelpPageDoesNotKeepTheProgramFromStarting) {
-  Run({"exit"});
-  fs::remove(home_.Path() / folder_ / "help.html");
-  // No file may become larger than some kilobytes.
-  Run({"-c", "trap '' XFSZ; ulimit -f 64; exec \"$0\" exit", DRIVEN_WRITER}, "sh");
-  EXPECT_EQ(status_, 0);
-  EXPECT_FALSE(Says("message:")) << output_;
 }
 
 TEST_F(ProcessTest, TheWindowComesBackAsItWasWhenItWasClosed) {
@@ -112,39 +58,6 @@ TEST_F(ProcessTest, ADamagedMemoryOfTheWindowIsNoObstacle) {
   Run({"tell-size", "close"});
   EXPECT_EQ(status_, 0);
   EXPECT_TRUE(Says("size: 1024x700")) << output_;
-}
-
-TEST_F(ProcessTest, ADeletedSampleProjectStaysDeleted) {
-  Run({"exit"});
-  fs::remove(home_.Path() / folder_ / "Writing for the iPod.dat");
-  Run({"exit"});
-  EXPECT_EQ(status_, 0);
-  EXPECT_FALSE(home_.Has(folder_ / "Writing for the iPod.dat"));
-}
-
-TEST_F(ProcessTest, AProjectOfTheSamplesNameIsNeverReplaced) {
-  home_.Write(folder_ / "Writing for the iPod.dat", kGuide);
-  Run({"exit"});
-  EXPECT_EQ(home_.Read(folder_ / "Writing for the iPod.dat"), kGuide);
-}
-
-TEST_F(ProcessTest, TheSampleProjectIsStoredUnchangedByASave) {
-  Run({"close"});
-  const std::string sample = home_.Read(folder_ / "Writing for the iPod.dat");
-  Run({"open=Writing for the iPod", "save", "close"});
-  EXPECT_TRUE(Says("Project saved...    "));
-  EXPECT_EQ(home_.Read(folder_ / "Writing for the iPod.dat"), sample);
-}
-
-TEST_F(ProcessTest, APortableCopyKeepsToItsOwnFolder) {
-  home_.Write("portable/tavrel.ini", "a\nb\nc\nd\n\n\n\n\n\n0\n\n\n\n\n\n\n\n\n\n\n");
-  home_.Write("portable/Guide.dat", kGuide);
-  fs::copy_file(DRIVEN_WRITER, home_.Path() / "portable/writer");
-  Run({"open=Guide", "title=Moved", "save", "close"},
-      QString::fromStdString((home_.Path() / "portable/writer").string()));
-  EXPECT_EQ(status_, 0);
-  EXPECT_NE(home_.Read("portable/Guide.dat").find("<title>Moved</title>"), std::string::npos);
-  EXPECT_FALSE(home_.Has(folder_));
 }
 
 TEST_F(ProcessTest, ExitAsksOnlyWhileADocumentIsOpen) {
@@ -204,15 +117,6 @@ TEST_F(ProcessTest, WhatWasTypedIsRescuedWhenSavingFails) {
             " 3 ,<title>C</title><text>three</text>\r\n");
 }
 
-TEST_F(ProcessTest, WhatWasTypedIsRescuedIntoTheHomeFolderWhenTheProgramsFolderIsGone) {
-  home_.Write(folder_ / "Trio.dat", kTrio);
-  Run({"open=Trio", "title=Typed", "vanish", "save"});
-  EXPECT_EQ(status_, 1);
-  EXPECT_TRUE(Says("could not be opened"));
-  EXPECT_TRUE(Says("Trio (rescued).dat"));
-  EXPECT_NE(home_.Read("home/Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
-}
-
 TEST_F(ProcessTest, WhatWasTypedButNotStoredIsRescuedWhenSaveAsFails) {
   home_.Write(folder_ / "Trio.dat", kTrio);
   Run({"open=Trio", "title=Typed", "block=Copy.dat", "save-as=Copy"});
@@ -228,12 +132,21 @@ TEST_F(ProcessTest, WhatWasTypedIsRescuedWhenMemoryRunsOut) {
   EXPECT_NE(home_.Read(folder_ / "Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
 }
 
-TEST_F(ProcessTest, WhatWasTypedIsRescuedIntoTheTemporaryFolderWhenNothingElseIsLeft) {
-  home_.Write(folder_ / "Trio.dat", kTrio);
-  fs::create_directory(home_.Path() / "temporary");
-  Run({"open=Trio", "title=Typed", "vanish-home", "save"}, DRIVEN_WRITER);
-  EXPECT_EQ(status_, 1);
-  EXPECT_NE(home_.Read("temporary/Trio (rescued).dat").find("<title>Typed</title>"), std::string::npos);
+TEST_F(ProcessTest, APortableCopyKeepsToItsOwnFolder) {
+  const fs::path program = fs::path(DRIVEN_WRITER).filename();
+  home_.Write("stick/tavrel.ini", kPortableSettings);
+  home_.Write("stick/Guide.dat", kGuide);
+  fs::copy_file(DRIVEN_WRITER, home_.Path() / "stick" / program);
+  const auto files = home_.Files();
+  Run({"open=Guide", "title=Moved", "save", "close"},
+      QString::fromStdString((home_.Path() / "stick" / program).string()));
+  EXPECT_EQ(status_, 0);
+  EXPECT_NE(home_.Read("stick/Guide.dat").find("<title>Moved</title>"), std::string::npos);
+  EXPECT_FALSE(home_.Has(documents_));
+  for (const auto& [name, bytes] : home_.Files()) {
+    EXPECT_TRUE(files.contains(name) || name.starts_with("stick/") || name.starts_with("home/.config/"))
+        << name;
+  }
 }
 
 }  // namespace

@@ -3,9 +3,11 @@
 #include <QListWidget>
 #include <QTest>
 
+#include <utility>
+
 namespace tavrel::test {
 
-WindowTest::WindowTest() {
+WindowTest::WindowTest(std::unique_ptr<Platform> platform) : platform_(std::move(platform)) {
   State.ProgramFolder = Folder.Path();
   std::filesystem::current_path(Folder.Path());
   System.FakeVolumes = {{"c:", Folder.Path()}};

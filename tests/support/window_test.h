@@ -23,7 +23,8 @@ namespace tavrel::test {
 /// A main window over a fresh program folder, driven as a person drives it.
 class WindowTest : public testing::Test {
  protected:
-  WindowTest();
+  /// The program runs on `System`, or on another platform.
+  explicit WindowTest(std::unique_ptr<Platform> platform = nullptr);
   ~WindowTest() override;
 
   /// Starts the main window. Called by the first use of Window(); call it after preparing the folder.
@@ -57,7 +58,12 @@ class WindowTest : public testing::Test {
   FakePlatform System;
   RecordingMessages Messages;
   RecordedProgram Program;
-  App Application{State, System, Messages, Program};
+
+ private:
+  std::unique_ptr<Platform> platform_;
+
+ protected:
+  App Application{State, platform_ ? *platform_ : System, Messages, Program};
   Robot Player;
 
  private:

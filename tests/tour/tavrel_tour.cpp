@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 
+#include "support/system_look.h"
 #include "tour/tour.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/shell/look.h"
@@ -33,6 +34,7 @@ int main(int argc, char* argv[]) {
     std::cerr << "usage: tavrel_tour --out FOLDER [--dark] [--mirrored]\n";
     return 2;
   }
+  tavrel::test::TakeSystemFont();
   tavrel::SetUpLook();
   if (arguments.contains("--dark")) QApplication::setPalette(DarkPalette());
   if (arguments.contains("--mirrored")) QApplication::setLayoutDirection(Qt::RightToLeft);

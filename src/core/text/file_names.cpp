@@ -17,10 +17,17 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t kExtensionLength = 4;
 
+auto SystemTime(fs::file_time_type time) {
+#ifdef _MSC_VER
+  return std::chrono::utc_clock::to_sys(std::chrono::file_clock::to_utc(time));
+#else
+  return std::chrono::file_clock::to_sys(time);
+#endif
+}
+
 std::tm LocalTime(fs::file_time_type time) {
-  const auto system_time =
-      std::chrono::time_point_cast<std::chrono::seconds>(std::chrono::file_clock::to_sys(time));
-  const std::time_t seconds = system_time.time_since_epoch().count();
+  const auto whole = std::chrono::time_point_cast<std::chrono::seconds>(SystemTime(time));
+  const std::time_t seconds = whole.time_since_epoch().count();
   std::tm local{};
 #ifdef _WIN32
   localtime_s(&local, &seconds);

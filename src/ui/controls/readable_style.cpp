@@ -25,6 +25,19 @@ QString MessageIcon(QStyle::StandardPixmap icon) {
   }
 }
 
+/// A row of dots in the middle of a splitter's handle, along it.
+void DrawGrip(const QStyleOption& option, QPainter& painter) {
+  constexpr int kDots = 6;
+  constexpr int kDistance = 3;
+  const bool upright = option.rect.height() > option.rect.width();
+  const QPoint step = upright ? QPoint(0, kDistance) : QPoint(kDistance, 0);
+  QPoint dot = option.rect.center() - step * (kDots - 1) / 2;
+  for (int i = 0; i < kDots; ++i, dot += step) {
+    painter.fillRect(QRect(dot, QSize(1, 1)), option.palette.color(QPalette::Light));
+    painter.fillRect(QRect(dot + QPoint(1, 1), QSize(1, 1)), option.palette.color(QPalette::Dark));
+  }
+}
+
 }  // namespace
 
 bool ReadableStyle::IsSystemStyle() const {
@@ -35,6 +48,16 @@ QIcon ReadableStyle::standardIcon(StandardPixmap icon, const QStyleOption* optio
                                   const QWidget* widget) const {
   const QString own = IsSystemStyle() ? QString() : MessageIcon(icon);
   return own.isEmpty() ? QProxyStyle::standardIcon(icon, option, widget) : QIcon(own);
+}
+
+void ReadableStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                                const QWidget* widget) const {
+  // The styles of Windows fill the whole handle.
+  if (element == CE_Splitter && IsSystemStyle()) {
+    DrawGrip(*option, *painter);
+    return;
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
 }
 
 void ReadableStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,

@@ -4,12 +4,15 @@
 
 namespace tavrel {
 
-/// The toolkit's own style where the system has none: with the program's own message icons, and tick boxes
-/// that can be seen on a dark background.
+/// The system's style with splitters that hide nothing of the picture behind them. Where the system has no
+/// style, the toolkit's own with the program's message icons and with tick boxes that can be seen on a dark
+/// background.
 class ReadableStyle : public QProxyStyle {
   Q_OBJECT
 
  public:
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;

@@ -42,7 +42,8 @@ class PublishTest : public testing::Test {
   }
 
   void ExpectErrorNaming(const fs::path& name) {
-    EXPECT_THAT([&] { Publish(); }, ThrowsMessage<FileError>(HasSubstr(PathText(Folder.Path() / name))));
+    const std::string text = PathText((Folder.Path() / name).make_preferred());
+    EXPECT_THAT([&] { Publish(); }, ThrowsMessage<FileError>(HasSubstr(text)));
   }
 
   TemporaryFolder Folder;

@@ -15,6 +15,8 @@ using Texts = std::vector<std::string>;
 /// Works with the File menu and its document dialogs as a person does.
 class DocumentTest : public WindowTest {
  protected:
+  using WindowTest::WindowTest;
+
   static constexpr const char* kOverwrite =
       "Warning|exclamation| File already exists. Overwrite?    |OK/Cancel";
 

@@ -26,6 +26,8 @@ inline std::string ImportFinished(const std::string& last_page) {
 /// Imports folders of notes as a person does.
 class ImportTest : public PublishTest {
  protected:
+  using PublishTest::PublishTest;
+
   /// Chooses Tools > Import and plays `step` on the dialog.
   void PlayImport(const Robot::Step& step) {
     Player.Expect("Import", step);

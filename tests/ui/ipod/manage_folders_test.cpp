@@ -184,29 +184,6 @@ TEST_F(ManageFoldersTest, UnusualNamesAreShownAsTheyAreCopiedAndDeleted) {
   EXPECT_EQ(Folder.Read(names[2] / "z001.txt"), "one");
 }
 
-TEST_F(ManageFoldersTest, ALinkedProjectIsCopiedAsAFolderAndOnlyItsLinkDeleted) {
-  Disks.Write("elsewhere/z001.txt", "one");
-  fs::create_directory_symlink(Disks.Path() / "elsewhere", Folder.Path() / "Linked");
-  PlayManage([](QWidget& dialog) {
-    ClickFor(dialog, "List1", "Linked", "Command2");
-    ClickFor(dialog, "List1", "Linked", "Command5");
-    EXPECT_TRUE(Rows(dialog, "List1").empty());
-  });
-  EXPECT_EQ(Seen(Messages.Shown), Texts{DeleteQuestion(Folder.Path() / "Linked")});
-  EXPECT_FALSE(fs::exists(fs::symlink_status(Folder.Path() / "Linked")));
-  EXPECT_EQ(Disks.Files(), (FileMap{{"E/Notes/Linked/z001.txt", "one"}, {"elsewhere/z001.txt", "one"}}));
-  EXPECT_FALSE(fs::is_symlink(Notes / "Linked"));
-}
-
-TEST_F(ManageFoldersTest, WhatALinkInAProjectLeadsToIsNotDeleted) {
-  Disks.Write("elsewhere/kept.txt", "kept");
-  fs::create_directory(Folder.Path() / "Guide");
-  fs::create_symlink(Disks.Path() / "elsewhere" / "kept.txt", Folder.Path() / "Guide" / "z001.txt");
-  PlayManage([](QWidget& dialog) { ClickFor(dialog, "List1", "Guide", "Command5"); });
-  EXPECT_FALSE(Folder.Has("Guide"));
-  EXPECT_EQ(Disks.Read("elsewhere/kept.txt"), "kept");
-}
-
 TEST_F(ManageFoldersTest, TheSameFolderOnBothSidesIsNotDamaged) {
   System.FakeVolumes.resize(1);
   Folder.Write("Guide/z001.txt", "one");

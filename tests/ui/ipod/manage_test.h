@@ -19,6 +19,8 @@ namespace tavrel::test {
 /// Carries folders between the program's folder and pretended disks as a person does.
 class ManageTest : public ImportTest {
  protected:
+  using ImportTest::ImportTest;
+
   /// Chooses Tools > Manage and plays `step` on the dialog, which it then closes.
   void PlayManage(const Robot::Step& step) {
     Player.Expect("Manage", [&](QWidget& dialog) {

@@ -106,6 +106,23 @@ TEST_F(PublishErrorsTest, ANameThatIsTooLongForTheSystemIsNamed) {
   });
 }
 
+TEST_F(PublishErrorsTest, ANameThatTheSystemRefusesIsNamedAndAnotherOneTaken) {
+  System.RefusedNames = {"NUL"};
+  const auto files = Folder.Files();
+  PlayPublish([&](QWidget& dialog) {
+    TypeInto(dialog, "Text1", "NUL");
+    Click(dialog, "Command2");
+    ASSERT_FALSE(Messages.Shown.empty());
+    EXPECT_THAT(LastMessage().Text, HasSubstr("Choose another name."));
+    ExpectRefused(dialog, "NUL");
+    EXPECT_EQ(Folder.Files(), files);
+    TypeInto(dialog, "Text1", "Other");
+    Click(dialog, "Command2");
+    EXPECT_FALSE(dialog.isVisible());
+  });
+  ExpectPublished("Other");
+}
+
 /// A music link that cannot exist ends the program, wherever the page names it.
 class ImpossibleMusicTest : public PublishTest, public testing::WithParamInterface<const char*> {};
 
@@ -152,6 +169,7 @@ class WatchingPlatform final : public Platform {
     return platform_.WhyNotWritable(folder);
   }
   bool IsSystemVolume(const Volume& volume) const override { return platform_.IsSystemVolume(volume); }
+  bool RefusesName(const std::filesystem::path& name) const override { return platform_.RefusesName(name); }
   bool IsHidden(const std::filesystem::path& file) const override { return platform_.IsHidden(file); }
   void CopyPlainFile(const std::filesystem::path& from, const std::filesystem::path& to) override {
     platform_.CopyPlainFile(from, to);

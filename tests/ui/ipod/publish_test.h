@@ -22,6 +22,8 @@ inline const std::string kFinished = "Publish|information|Finished...    |OK";
 /// Publishes documents as a person does.
 class PublishTest : public WindowTest {
  protected:
+  using WindowTest::WindowTest;
+
   /// Chooses File > Publish and plays `step` on the dialog.
   void PlayPublish(const Robot::Step& step);
 

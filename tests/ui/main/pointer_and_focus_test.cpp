@@ -151,9 +151,9 @@ TEST_F(PointerAndFocusTest, TheTabKeyGoesThroughTheFieldsAsTheEyeDoes) {
 }
 
 TEST_F(PointerAndFocusTest, AProjectNameIsShownAsItIs) {
-  OpenDocument("<i>x.dat", kTrio);
+  OpenDocument("a&lt;b.dat", kTrio);
   auto& label = Find<QLabel>(Window(), "Label7");
-  EXPECT_EQ(label.text(), "<i>x");
+  EXPECT_EQ(label.text(), "a&lt;b");
   EXPECT_EQ(label.textFormat(), Qt::PlainText);
 }
 

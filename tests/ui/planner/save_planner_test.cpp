@@ -1,10 +1,15 @@
 #include <QLabel>
 
+#include <gmock/gmock.h>
+
 #include "ui/planner/planner_test.h"
 
 namespace tavrel::test {
 namespace {
 
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
 using Operation = FailingFiles::Operation;
 
 constexpr const char* kOverwrite = "Warning|exclamation| File already exists. Overwrite?    |OK/Cancel";
@@ -55,6 +60,23 @@ TEST_F(SavePlannerTest, ANameOutsidePlainLettersIsAFileOfThatName) {
   EXPECT_TRUE(Folder.Has(std::filesystem::path(u8"Caf\u00e9.pln")));
   EXPECT_EQ(PlannerWindow().windowTitle(), QString::fromUtf8("Project Planner - Caf\u00e9"));
   ExpectOffered(QString::fromUtf8("Caf\u00e9"));
+}
+
+TEST_F(SavePlannerTest, ANameThatTheSystemRefusesEndsTheProgramAndNothingIsWritten) {
+  System.RefusedNames = {"NUL.pln"};
+  StartPlanning();
+  SavePlanAs("First");
+  const auto files = Folder.Files();
+  TypeTop("7");
+  PlaySave([](QWidget& dialog) {
+    TypeInto(dialog, "Text1", "NUL");
+    Click(dialog, "Command1");
+    dialog.close();
+  });
+  EXPECT_THAT(Program.Failures, ElementsAre(AllOf(HasSubstr("NUL.pln"), HasSubstr("Choose another name."))));
+  EXPECT_EQ(Folder.Files(), files);
+  EXPECT_EQ(State.PlanPath, "First.pln");
+  EXPECT_TRUE(Messages.Shown.empty());
 }
 
 TEST_F(SavePlannerTest, AsksBeforeOverwriting) {

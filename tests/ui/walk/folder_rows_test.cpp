@@ -53,7 +53,7 @@ class FolderRowsTest : public testing::Test {
   void ExpectDeeperRowsFurtherIn() {
     const QString own = ToText(folder_.Path().filename());
     const QString above = ToText(folder_.Path().parent_path().filename());
-    EXPECT_GT(DrawnAt(above), DrawnAt("/"));
+    EXPECT_GT(DrawnAt(above), DrawnAt(ToText(folder_.Path().root_path())));
     EXPECT_GT(DrawnAt(own), DrawnAt(above));
     EXPECT_GT(DrawnAt("apple"), DrawnAt(own));
     EXPECT_EQ(DrawnAt("apple"), DrawnAt("cherry"));

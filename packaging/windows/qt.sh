@@ -1,0 +1,38 @@
+# shellcheck shell=bash
+# Sourced by build and by the checks. find_qt puts the folder of a static Qt for Windows into TAVREL_QT_WINDOWS: the one
+# that this variable names already, the one in the cache, or an archive "qt6-windows.tar.xz" that lies beside the
+# checkout or in a folder beside it. It fails if there is none.
+
+QT_CACHE=${XDG_CACHE_HOME:-$HOME/.cache}/tavrel-writer/qt6-windows
+
+is_qt() { [ -e "$1/lib/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake" ]; }
+
+# Whatever happens on the way, the cache holds a whole one or none.
+unpack_qt() {
+  local archive=$1 parent
+  parent=$(dirname "$QT_CACHE")
+  mkdir -p "$parent"
+  local unpacked
+  unpacked=$(mktemp -d "$parent/unpacking.XXXXXX")
+  tar -xf "$archive" -C "$unpacked"
+  mv -T "$unpacked/qt6-windows" "$QT_CACHE"
+  rmdir "$unpacked"
+}
+
+find_qt() {
+  local archive
+  if [ -n "${TAVREL_QT_WINDOWS:-}" ]; then
+    is_qt "$TAVREL_QT_WINDOWS" && return
+    echo "TAVREL_QT_WINDOWS names no Qt: $TAVREL_QT_WINDOWS" >&2
+    return 1
+  fi
+  if ! is_qt "$QT_CACHE"; then
+    for archive in ../qt6-windows.tar.xz ../*/qt6-windows.tar.xz; do
+      if [ -f "$archive" ]; then
+        unpack_qt "$archive"
+        break
+      fi
+    done
+  fi
+  is_qt "$QT_CACHE" && export TAVREL_QT_WINDOWS=$QT_CACHE
+}
