@@ -41,6 +41,9 @@ class Platform {
   /// Whether the volume's root can be read now (a drive without a disk cannot).
   virtual bool IsReady(const Volume& volume) const = 0;
 
+  /// Why a folder's entries cannot be read; no error if they can.
+  virtual std::error_code WhyNotReadable(const std::filesystem::path& folder) const = 0;
+
   /// Why no files can be made in a folder; no error if they can.
   virtual std::error_code WhyNotWritable(const std::filesystem::path& folder) const = 0;
 

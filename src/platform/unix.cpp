@@ -108,10 +108,12 @@ class UnixPlatform final : public Platform {
 
   std::vector<Volume> Volumes() const override { return MountedVolumes("/proc/self/mounts"); }
 
-  bool IsReady(const Volume& volume) const override {
+  bool IsReady(const Volume& volume) const override { return !WhyNotReadable(volume.Root); }
+
+  std::error_code WhyNotReadable(const fs::path& folder) const override {
     std::error_code error;
-    const fs::directory_iterator entries(volume.Root, error);
-    return !error;
+    const fs::directory_iterator entries(folder, error);
+    return error;
   }
 
   std::error_code WhyNotWritable(const fs::path& folder) const override {

@@ -106,14 +106,18 @@ class WindowsPlatform final : public Platform {
     return volumes;
   }
 
-  bool IsReady(const Volume& volume) const override {
+  bool IsReady(const Volume& volume) const override { return !WhyNotReadable(volume.Root); }
+
+  std::error_code WhyNotReadable(const fs::path& folder) const override {
     const NoSystemMessages quiet;
     WIN32_FIND_DATAW entry;
-    const HANDLE entries = ::FindFirstFileW((volume.Root / L"*").c_str(), &entry);
-    // A disk may be without any files.
-    if (entries == INVALID_HANDLE_VALUE) return ::GetLastError() == ERROR_FILE_NOT_FOUND;
+    const HANDLE entries = ::FindFirstFileW((folder / L"*").c_str(), &entry);
+    if (entries == INVALID_HANDLE_VALUE) {
+      // A disk may be without any files.
+      return ::GetLastError() == ERROR_FILE_NOT_FOUND ? std::error_code() : LastSystemError();
+    }
     ::FindClose(entries);
-    return true;
+    return {};
   }
 
   std::error_code WhyNotWritable(const fs::path& folder) const override {

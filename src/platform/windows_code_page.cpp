@@ -7,8 +7,8 @@
 namespace tavrel {
 namespace {
 
-/// The character of a byte. A byte that the code page leaves undefined stands for the control character of
-/// the same number, so that every byte survives.
+/// The character of a byte. A byte that the code page leaves undefined stands for the character of the same
+/// number, so that every byte survives.
 char32_t CharacterOf(unsigned byte) {
   const char bytes[1] = {static_cast<char>(byte)};
   wchar_t character = 0;

@@ -12,6 +12,8 @@ constexpr std::wstring_view kRefused = L"<>:\"/\\|?*";
 
 constexpr std::array<std::wstring_view, 6> kDevices = {L"CON", L"PRN", L"AUX", L"NUL", L"CONIN$", L"CONOUT$"};
 constexpr std::array<std::wstring_view, 2> kNumberedDevices = {L"COM", L"LPT"};
+constexpr std::size_t kLongestName = 255;
+
 /// Raised digits count too.
 constexpr std::wstring_view kDeviceNumbers = L"0123456789\u00B9\u00B2\u00B3";
 
@@ -46,7 +48,8 @@ bool IsDevice(std::wstring_view part) {
 
 bool IsNoWindowsFileName(const std::filesystem::path& name) {
   const std::wstring text = name.wstring();
-  return std::any_of(text.begin(), text.end(), IsRefused) || IsDevice(DevicePart(text));
+  return text.size() > kLongestName || std::any_of(text.begin(), text.end(), IsRefused) ||
+         IsDevice(DevicePart(text));
 }
 
 }  // namespace tavrel

@@ -4,8 +4,9 @@
 
 namespace tavrel {
 
-/// Whether Windows has no file of a name: it refuses some characters, a colon begins the name of a drive or
-/// of a hidden stream of another file, and some names are devices, whatever their extension.
+/// Whether Windows has no file of a name: it refuses some characters and names of more than 255 characters, a
+/// colon begins the name of a drive or of a hidden stream of another file, and some names are devices, whatever
+/// their extension.
 bool IsNoWindowsFileName(const std::filesystem::path& name);
 
 }  // namespace tavrel

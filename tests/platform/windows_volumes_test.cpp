@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <chrono>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <vector>
@@ -55,7 +56,7 @@ TEST_F(WindowsVolumesTest, AreDriveLettersInTheirOrder) {
 }
 
 TEST_F(WineVolumesTest, AreThoseThatTheSystemHas) {
-  EXPECT_EQ(NamesOf(System->Volumes()), (std::vector<std::string>{"C:", "E:", "F:", "Z:"}));
+  EXPECT_THAT(NamesOf(System->Volumes()), testing::IsSupersetOf({"C:", "E:", "F:", "Z:"}));
 }
 
 TEST_F(WineVolumesTest, ADriveWithoutADiskIsListedAndNotReadyAtOnce) {

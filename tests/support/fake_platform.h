@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "core/platform.h"
+#include "platform/system_platform.h"
 #include "support/failing_files.h"
 
 namespace tavrel::test {
@@ -30,6 +31,9 @@ class FakePlatform final : public Platform {
   const CodePage& SystemCodePage() const override { return CodePage::Windows1252(); }
   std::vector<Volume> Volumes() const override { return FakeVolumes; }
   bool IsReady(const Volume& volume) const override { return !NotReady.contains(volume.Name); }
+  std::error_code WhyNotReadable(const std::filesystem::path& folder) const override {
+    return MakeSystemPlatform()->WhyNotReadable(folder);
+  }
   std::error_code WhyNotWritable(const std::filesystem::path& folder) const override;
   bool IsSystemVolume(const Volume& volume) const override { return volume.Name == SystemVolume; }
   bool RefusesName(const std::filesystem::path& name) const override { return RefusedNames.contains(name); }

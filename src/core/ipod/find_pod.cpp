@@ -10,12 +10,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool IsReadable(const fs::path& folder) {
-  std::error_code error;
-  const fs::directory_iterator entries(folder, error);
-  return !error;
-}
-
 }  // namespace
 
 std::optional<fs::path> TestPod(const Platform& platform, const Volume& drive) {
@@ -23,7 +17,7 @@ std::optional<fs::path> TestPod(const Platform& platform, const Volume& drive) {
   const CodePage& code_page = platform.SystemCodePage();
   for (const fs::path& name : Subfolders(drive.Root, platform)) {
     const bool is_notes = code_page.Lower(NameInCodePage(name, code_page)) == "notes";
-    if (is_notes && IsReadable(drive.Root / name)) return drive.Root / name;
+    if (is_notes && !platform.WhyNotReadable(drive.Root / name)) return drive.Root / name;
   }
   return std::nullopt;
 }

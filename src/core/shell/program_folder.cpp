@@ -12,12 +12,21 @@ namespace {
 
 constexpr const char* kSettingsName = "tavrel.ini";
 
+/// A program that was started as "c:\..." has a folder on the same drive as one that was started as "C:\...".
+fs::path WithCapitalDrive(const fs::path& folder) {
+  fs::path::string_type text = folder.native();
+  if (folder.has_root_name() && text[0] >= 'a' && text[0] <= 'z') {
+    text[0] = static_cast<fs::path::value_type>(text[0] - 'a' + 'A');
+  }
+  return text;
+}
+
 }  // namespace
 
 fs::path FindProgramFolder(const fs::path& executable_folder, const fs::path& documents_folder) {
   std::error_code error;
-  if (fs::is_regular_file(executable_folder / kSettingsName, error)) return executable_folder;
-  return documents_folder / "Tavrel Writer";
+  if (fs::is_regular_file(executable_folder / kSettingsName, error)) return WithCapitalDrive(executable_folder);
+  return WithCapitalDrive(documents_folder / "Tavrel Writer");
 }
 
 void EnterProgramFolder(const fs::path& folder) {

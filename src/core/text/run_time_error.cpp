@@ -19,10 +19,12 @@ std::string NextStep(const std::error_code& error) {
   return "Check the disk and try again.";
 }
 
-/// What the system says of an error, in English like the rest of the message. Its own words for errors that
-/// only it knows are in an encoding of its own.
+/// What went wrong, in English like the rest of the message. The system's words for errors that only it knows
+/// are in the user's language and an encoding of its own.
 std::string Reason(const std::error_code& error) {
-  return PlainAscii(error.default_error_condition().message());
+  const std::error_condition condition = error.default_error_condition();
+  if (condition.category() == std::generic_category()) return condition.message();
+  return "error " + std::to_string(error.value()) + " of the system";
 }
 
 }  // namespace

@@ -48,9 +48,7 @@ FolderList::FolderList(QWidget* parent) : QListWidget(parent) {
 }
 
 std::error_code FolderList::SetPath(const fs::path& path) {
-  std::error_code error;
-  const fs::directory_iterator readable(path, error);
-  if (error) return error;
+  if (const std::error_code error = platform_->WhyNotReadable(path)) return error;
   path_ = path;
   subfolders_ = tavrel::Subfolders(path, *platform_);
   folders_.clear();
