@@ -76,6 +76,11 @@ TEST(WindowsNames, WhatOnlyLooksLikeADeviceIsAFileName) {
   }
 }
 
+TEST(WindowsNames, NoNameIsLongerThan255Characters) {
+  EXPECT_FALSE(IsNoWindowsFileName(std::wstring(251, L'x') + L".dat"));
+  EXPECT_TRUE(IsNoWindowsFileName(std::wstring(252, L'x') + L".dat"));
+}
+
 TEST(WindowsNames, TheSystemRefusesThem) {
   const auto system = MakeSystemPlatform();
   for (const wchar_t* name : {L"NUL.dat", L"con", L"a?b", L"D:x"}) EXPECT_TRUE(system->RefusesName(name));

@@ -2,6 +2,9 @@
 #include <QCheckBox>
 #include <QImage>
 #include <QMessageBox>
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
 
 #include <gtest/gtest.h>
 
@@ -44,6 +47,35 @@ std::pair<int, int> Columns(QWidget& widget) {
     }
   }
   return columns;
+}
+
+/// How many pixels a style paints of a splitter's handle.
+int PaintedPixels(const QStyle& style, const QSize& handle) {
+  QImage seen(handle, QImage::Format_RGB32);
+  seen.fill(Qt::red);
+  QPainter painter(&seen);
+  QStyleOption option;
+  option.rect = seen.rect();
+  option.palette = QPalette(QColor(240, 240, 240));
+  style.drawControl(QStyle::CE_Splitter, &option, &painter, nullptr);
+  painter.end();
+  int painted = 0;
+  for (int x = 0; x < seen.width(); ++x) {
+    for (int y = 0; y < seen.height(); ++y) painted += seen.pixelColor(x, y) == QColor(Qt::red) ? 0 : 1;
+  }
+  return painted;
+}
+
+TEST(LookTest, ASplitterHasAGripAndHidesNothingElseOfThePictureBehindIt) {
+  for (const char* base : {"Windows", "Fusion"}) {
+    ReadableStyle style;
+    style.setBaseStyle(QStyleFactory::create(base));
+    for (const QSize& handle : {QSize(6, 300), QSize(300, 6)}) {
+      const int painted = PaintedPixels(style, handle);
+      EXPECT_GE(painted, 6) << base;
+      EXPECT_LE(painted, 60) << base;
+    }
+  }
 }
 
 TEST(LookTest, ALinkCanBeReadOnADarkWindow) {
