@@ -157,7 +157,7 @@ class WatchingPlatform final : public Platform {
   const CodePage& SystemCodePage() const override { return platform_.SystemCodePage(); }
   std::vector<Volume> Volumes() const override { return platform_.Volumes(); }
   bool IsReady(const Volume& volume) const override { return platform_.IsReady(volume); }
-  std::error_code WhyNotReadable(const fs::path& folder) const override {
+  std::error_code WhyNotReadable(const std::filesystem::path& folder) const override {
     return platform_.WhyNotReadable(folder);
   }
   void WriteWholeFile(const std::filesystem::path& file, std::string_view bytes) override {

@@ -68,14 +68,14 @@ TEST_F(SavePlannerTest, ANameThatTheSystemRefusesEndsTheProgramAndNothingIsWritt
   SavePlanAs("First");
   const auto files = Folder.Files();
   TypeTop("7");
-  PlaySave([](QWidget& dialog) {
+  PlaySave([this](QWidget& dialog) {
     TypeInto(dialog, "Text1", "NUL");
     Click(dialog, "Command1");
+    EXPECT_EQ(State.PlanPath, "First.pln");
     dialog.close();
   });
   EXPECT_THAT(Program.Failures, ElementsAre(AllOf(HasSubstr("NUL.pln"), HasSubstr("Choose another name."))));
   EXPECT_EQ(Folder.Files(), files);
-  EXPECT_EQ(State.PlanPath, "First.pln");
   EXPECT_TRUE(Messages.Shown.empty());
 }
 

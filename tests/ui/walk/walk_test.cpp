@@ -100,6 +100,8 @@ void WalkTest::VisitPlanner(const Place& place, const Look& look) {
 void WalkTest::Enter(QWidget& window, const Place& place, const Look& look) {
   if (place.Tab > 0) window.findChild<QTabWidget*>()->setCurrentIndex(place.Tab);
   WaitForFocus(window);
+  // Where the display tells windows their size, the controls follow a moment later.
+  Settle();
   look(window);
   if (&window != &Window()) window.close();
 }
