@@ -34,11 +34,31 @@ VIAddVersionKey "LegalCopyright" "MIT licence"
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
 
+BrandingText "${NAME} ${VERSION}"
+
+; A program that runs cannot be replaced or removed. Nothing else is touched then.
+!macro STOP_IF_RUNNING
+  !define SECTION_ID ${__LINE__}
+  IfFileExists "$INSTDIR\tavrel_writer.exe" 0 go_on_${SECTION_ID}
+  ClearErrors
+  FileOpen $0 "$INSTDIR\tavrel_writer.exe" a
+  IfErrors 0 close_${SECTION_ID}
+  MessageBox MB_OK|MB_ICONEXCLAMATION "${NAME} is running, or you may not change it. Close it and try again." /SD IDOK
+  SetErrorLevel 2
+  Quit
+  close_${SECTION_ID}:
+  FileClose $0
+  go_on_${SECTION_ID}:
+  !undef SECTION_ID
+!macroend
+
 Section "Install"
+  !insertmacro STOP_IF_RUNNING
   SetOutPath "$INSTDIR"
   File "${PROGRAM}\tavrel_writer.exe"
   File "${PROGRAM}\Licence.txt"
   File "${PROGRAM}\Third parties.txt"
+  File "${PROGRAM}\Notices.txt"
   File "${PROGRAM}\GNU LGPL 3.txt"
   File "${PROGRAM}\GNU GPL 3.txt"
   WriteUninstaller "$INSTDIR\Uninstall.exe"
@@ -59,9 +79,11 @@ SectionEnd
 
 ; Only what was installed goes. A folder in which a person has put something stays with it.
 Section "Uninstall"
+  !insertmacro STOP_IF_RUNNING
   Delete "$INSTDIR\tavrel_writer.exe"
   Delete "$INSTDIR\Licence.txt"
   Delete "$INSTDIR\Third parties.txt"
+  Delete "$INSTDIR\Notices.txt"
   Delete "$INSTDIR\GNU LGPL 3.txt"
   Delete "$INSTDIR\GNU GPL 3.txt"
   Delete "$INSTDIR\Uninstall.exe"

@@ -3,20 +3,22 @@
 # that this variable names already, the one in the cache, or an archive "qt6-windows.tar.xz" that lies beside the
 # checkout or in a folder beside it. It fails if there is none.
 
-QT_CACHE=${XDG_CACHE_HOME:-$HOME/.cache}/tavrel-writer/qt6-windows
+QT_CACHE=${XDG_CACHE_HOME:-$(echo ~)/.cache}/tavrel-writer/qt6-windows
 
 is_qt() { [ -e "$1/lib/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake" ]; }
 
-# Whatever happens on the way, the cache holds a whole one or none.
+# Puts a folder into the cache in one step: whatever happens on the way, the cache holds a whole Qt or none.
+cache_qt() {
+  rm -rf "$QT_CACHE"
+  mv -T "$1" "$QT_CACHE"
+}
+
 unpack_qt() {
-  local archive=$1 parent
-  parent=$(dirname "$QT_CACHE")
-  mkdir -p "$parent"
   local unpacked
-  unpacked=$(mktemp -d "$parent/unpacking.XXXXXX")
-  tar -xf "$archive" -C "$unpacked"
-  mv -T "$unpacked/qt6-windows" "$QT_CACHE"
-  rmdir "$unpacked"
+  mkdir -p "$(dirname "$QT_CACHE")" || return
+  unpacked=$(mktemp -d "$QT_CACHE.XXXXXX") || return
+  if tar -xf "$1" -C "$unpacked"; then cache_qt "$unpacked/qt6-windows"; fi
+  rm -rf "$unpacked"
 }
 
 find_qt() {
@@ -24,7 +26,7 @@ find_qt() {
   if [ -n "${TAVREL_QT_WINDOWS:-}" ]; then
     is_qt "$TAVREL_QT_WINDOWS" && return
     echo "TAVREL_QT_WINDOWS names no Qt: $TAVREL_QT_WINDOWS" >&2
-    return 1
+    exit 1
   fi
   if ! is_qt "$QT_CACHE"; then
     for archive in ../qt6-windows.tar.xz ../*/qt6-windows.tar.xz; do

@@ -14,8 +14,8 @@
 namespace tavrel {
 namespace {
 
-/// Puts into a folder what a portable copy has beside the program: the settings, which make it one, the help page,
-/// the background pictures and the sample project.
+/// Puts into a folder what a portable copy has beside the program: the settings, which make it one, the help
+/// page, the background pictures and the sample project.
 void WriteFirstFiles(const std::filesystem::path& folder) {
   const auto platform = MakeSystemPlatform();
   Global global;

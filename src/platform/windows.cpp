@@ -81,7 +81,7 @@ std::error_code Run(const fs::path& program, std::wstring command_line) {
 
 fs::path WindowsFolder() {
   std::wstring folder(MAX_PATH, L'\0');
-  folder.resize(::GetWindowsDirectoryW(folder.data(), MAX_PATH));
+  folder.resize(::GetSystemWindowsDirectoryW(folder.data(), MAX_PATH));
   return folder;
 }
 
@@ -109,6 +109,7 @@ class WindowsPlatform final : public Platform {
   bool IsReady(const Volume& volume) const override { return !WhyNotReadable(volume.Root); }
 
   std::error_code WhyNotReadable(const fs::path& folder) const override {
+    if (IsTooLongToList(folder)) return std::make_error_code(std::errc::filename_too_long);
     const NoSystemMessages quiet;
     WIN32_FIND_DATAW entry;
     const HANDLE entries = ::FindFirstFileW((folder / L"*").c_str(), &entry);

@@ -9,6 +9,7 @@
 
 #include "platform/file_layer.h"
 #include "platform/windows_error.h"
+#include "platform/windows_names.h"
 
 namespace tavrel {
 namespace {
@@ -104,6 +105,7 @@ bool IsNotWritable(const std::error_code& error) {
 
 std::error_code FlushFilesIn(const fs::path& folder) {
   std::error_code error;
+  if (IsTooLongToList(folder)) return std::make_error_code(std::errc::filename_too_long);
   for (fs::recursive_directory_iterator entry(folder, error), end; !error && entry != end;
        entry.increment(error)) {
     std::error_code ignored;

@@ -52,4 +52,11 @@ bool IsNoWindowsFileName(const std::filesystem::path& name) {
          IsDevice(DevicePart(text));
 }
 
+bool IsTooLongToList(const std::filesystem::path& folder) {
+  // With the pattern "\\*" and the end of the text a path has to stay within 260 characters.
+  constexpr std::size_t kLongestListed = 256;
+  std::error_code ignored;
+  return std::filesystem::absolute(folder, ignored).native().size() > kLongestListed;
+}
+
 }  // namespace tavrel

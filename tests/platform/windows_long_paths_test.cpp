@@ -106,6 +106,24 @@ TEST_P(WindowsLongPathsTest, AFolderIsFlushedOrAnErrorIsTold) {
   EXPECT_FALSE(IsThere(Deepest / std::wstring(30, L'g')));
 }
 
+TEST_P(WindowsLongPathsTest, AFolderIsListedAsItIsOrRefused) {
+  ASSERT_TRUE(Does([this] { System->WritePlainFile(File(), "note"); }));
+  const std::error_code error = System->WhyNotReadable(Deepest);
+  EXPECT_EQ(error == std::errc::filename_too_long, Deepest.native().size() > 256);
+  if (!error) {
+    std::vector<fs::path> entries;
+    for (const auto& entry : fs::directory_iterator(Deepest)) entries.push_back(entry.path());
+    EXPECT_EQ(entries, std::vector{File()});
+  }
+}
+
+TEST(WindowsLongPaths, AFolderOf256CharactersIsTheLongestThatIsListed) {
+  const auto system = MakeSystemPlatform();
+  const std::wstring root = L"C:\\";
+  EXPECT_EQ(system->WhyNotReadable(root + std::wstring(253, L'x')), std::errc::no_such_file_or_directory);
+  EXPECT_EQ(system->WhyNotReadable(root + std::wstring(254, L'x')), std::errc::filename_too_long);
+}
+
 INSTANTIATE_TEST_SUITE_P(OfLengths, WindowsLongPathsTest,
                          testing::Values(230, 240, 248, 258, 259, 260, 261, 262, 300, 400, 1000, 2500));
 

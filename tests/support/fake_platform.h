@@ -15,7 +15,8 @@ namespace tavrel::test {
 class FakePlatform final : public Platform {
  public:
   std::vector<Volume> FakeVolumes;
-  std::set<std::string> NotReady;  ///< names of volumes that cannot be read
+  std::set<std::string> NotReady;               ///< names of volumes that cannot be read
+  std::set<std::filesystem::path> NotReadable;  ///< folders whose entries cannot be listed
   std::set<std::filesystem::path> NotWritable;
   std::set<std::filesystem::path> RefusedNames;  ///< names that no file can have
   bool FlushesVolumes = true;                    ///< whether FlushVolumeOf takes its time
@@ -32,6 +33,7 @@ class FakePlatform final : public Platform {
   std::vector<Volume> Volumes() const override { return FakeVolumes; }
   bool IsReady(const Volume& volume) const override { return !NotReady.contains(volume.Name); }
   std::error_code WhyNotReadable(const std::filesystem::path& folder) const override {
+    if (NotReadable.contains(folder)) return std::make_error_code(std::errc::filename_too_long);
     return MakeSystemPlatform()->WhyNotReadable(folder);
   }
   std::error_code WhyNotWritable(const std::filesystem::path& folder) const override;

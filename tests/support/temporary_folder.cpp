@@ -22,8 +22,10 @@ TemporaryFolder::~TemporaryFolder() {
   fs::current_path(old_current_, error);
   for (auto entry = fs::recursive_directory_iterator(path_, error); !error && entry != fs::end(entry);
        entry.increment(error)) {
-    if (entry->is_directory(error))
-      fs::permissions(entry->path(), fs::perms::owner_all, fs::perm_options::add, error);
+    if (entry->is_symlink(error)) continue;
+    // Some systems keep files that may not be written to from being removed.
+    const fs::perms needed = entry->is_directory(error) ? fs::perms::owner_all : fs::perms::owner_write;
+    fs::permissions(entry->path(), needed, fs::perm_options::add, error);
   }
   fs::remove_all(path_, error);
 }

@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 std::vector<fs::directory_entry> VisibleEntries(const fs::path& folder, const Platform& platform,
                                                 std::error_code& error) {
   std::vector<fs::directory_entry> entries;
+  error = platform.WhyNotReadable(folder);
+  if (error) return entries;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     if (!platform.IsHidden(entry->path())) entries.push_back(*entry);
   }

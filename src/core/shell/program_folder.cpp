@@ -25,7 +25,8 @@ fs::path WithCapitalDrive(const fs::path& folder) {
 
 fs::path FindProgramFolder(const fs::path& executable_folder, const fs::path& documents_folder) {
   std::error_code error;
-  if (fs::is_regular_file(executable_folder / kSettingsName, error)) return WithCapitalDrive(executable_folder);
+  if (fs::is_regular_file(executable_folder / kSettingsName, error))
+    return WithCapitalDrive(executable_folder);
   return WithCapitalDrive(documents_folder / "Tavrel Writer");
 }
 

@@ -44,6 +44,13 @@ TEST_F(DeleteFolderTest, LeavesAFolderWithSubfoldersButNotItsFiles) {
   EXPECT_EQ(Folder.Files(), (FileMap{{"Guide/inner/z001.txt", "inner"}}));
 }
 
+TEST_F(DeleteFolderTest, LeavesAFolderThatCannotBeRead) {
+  Folder.Write("Guide/z001.txt", "x");
+  System.NotReadable = {Guide()};
+  EXPECT_FALSE(Delete());
+  EXPECT_EQ(Folder.Files(), (FileMap{{"Guide/z001.txt", "x"}}));
+}
+
 TEST_F(DeleteFolderTest, LeavesAFolderWithAnEmptySubfolder) {
   fs::create_directories(Guide() / "inner");
   EXPECT_FALSE(Delete());

@@ -139,6 +139,14 @@ TEST_F(FolderStoreTest, MakesNothingWhenTheSourceIsGone) {
   EXPECT_TRUE(fs::is_empty(Remote()));
 }
 
+TEST_F(FolderStoreTest, MakesNothingWhenTheSourceCannotBeRead) {
+  Folder.Write("local/Guide/z001.txt", "1");
+  System.NotReadable = {Local() / "Guide"};
+  ExpectErrorNaming(Local() / "Guide");
+  EXPECT_TRUE(fs::is_empty(Remote()));
+  EXPECT_THAT(Subfolders(Local() / "Guide", System), IsEmpty());
+}
+
 TEST_F(FolderStoreTest, NamesASourceThatIsAFile) {
   Folder.Write("local/Guide", "a file");
   ExpectErrorNaming(Local() / "Guide");

@@ -34,6 +34,13 @@ TEST(FindProgramFolder, TakesNoFolderForASettingsFile) {
             folder.Path() / "Documents" / "Tavrel Writer");
 }
 
+#ifdef _WIN32
+TEST(FindProgramFolder, LiesOnADriveWithACapitalLetter) {
+  EXPECT_EQ(FindProgramFolder("c:\\bin", "d:\\docs").native(), L"D:\\docs\\Tavrel Writer");
+  EXPECT_EQ(FindProgramFolder("c:\\bin", "\\\\server\\docs").native(), L"\\\\server\\docs\\Tavrel Writer");
+}
+#endif
+
 TEST(FindProgramFolder, MakesNothing) {
   const TemporaryFolder folder;
   FindProgramFolder(folder.Path() / "bin", folder.Path() / "Documents");
