@@ -7,9 +7,6 @@ mkdir -p "$pictures"
 
 fail() { echo "FAILED: $*" >&2; exit 1; }
 
-# A path of this machine as Windows names it.
-winpath() { printf 'Z:%s' "${1//\//\\}"; }
-
 # Everything that was started ends with the test.
 end_all() {
   local job

@@ -14,8 +14,8 @@ class WindowsResourcesTest : public testing::Test {
   void SetUp() override { ASSERT_NE(file_, nullptr) << TAVREL_WRITER_EXE; }
   ~WindowsResourcesTest() override { ::FreeLibrary(file_); }
 
-  std::string Bytes(const wchar_t* name, const wchar_t* type) const {
-    const HRSRC found = ::FindResourceW(file_, name, type);
+  std::string Bytes(const char* name, const char* type) const {
+    const HRSRC found = ::FindResourceA(file_, name, type);
     if (found == nullptr) return {};
     const auto* bytes = static_cast<const char*>(::LockResource(::LoadResource(file_, found)));
     return {bytes, ::SizeofResource(file_, found)};
@@ -25,7 +25,7 @@ class WindowsResourcesTest : public testing::Test {
 };
 
 TEST_F(WindowsResourcesTest, TheIconHasAllSizesThatTheSystemShows) {
-  const std::string group = Bytes(MAKEINTRESOURCEW(1), RT_GROUP_ICON);
+  const std::string group = Bytes(MAKEINTRESOURCEA(1), RT_GROUP_ICON);
   // After six bytes, fourteen for each picture, which begin with its width; 0 stands for 256.
   std::string widths;
   for (std::size_t at = 6; at < group.size(); at += 14)
@@ -35,7 +35,7 @@ TEST_F(WindowsResourcesTest, TheIconHasAllSizesThatTheSystemShows) {
 }
 
 TEST_F(WindowsResourcesTest, TheVersionIsTheProgramsOwn) {
-  const std::string version = Bytes(MAKEINTRESOURCEW(1), RT_VERSION);
+  const std::string version = Bytes(MAKEINTRESOURCEA(1), RT_VERSION);
   // The fixed part lies behind its length, its kind and the name of the block, at the next multiple of four.
   constexpr std::size_t kFixedPart = 40;
   ASSERT_GT(version.size(), kFixedPart + sizeof(VS_FIXEDFILEINFO));
@@ -47,7 +47,7 @@ TEST_F(WindowsResourcesTest, TheVersionIsTheProgramsOwn) {
 }
 
 TEST_F(WindowsResourcesTest, TheManifestAsksForSharpWindowsAndLongPathsAndNoAdministrator) {
-  const std::string manifest = Bytes(MAKEINTRESOURCEW(1), RT_MANIFEST);
+  const std::string manifest = Bytes(MAKEINTRESOURCEA(1), RT_MANIFEST);
   for (const char* part : {">PerMonitorV2, PerMonitor<", "<longPathAware", "level=\"asInvoker\"",
                            "Microsoft.Windows.Common-Controls"}) {
     EXPECT_NE(manifest.find(part), std::string::npos) << part;
