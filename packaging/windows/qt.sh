@@ -3,7 +3,7 @@
 # that this variable names already, the one in the cache, or an archive "qt6-windows.tar.xz" that lies beside the
 # checkout or in a folder beside it. It fails if there is none.
 
-QT_CACHE=${XDG_CACHE_HOME:-$(echo ~)/.cache}/tavrel-writer/qt6-windows
+QT_CACHE=${XDG_CACHE_HOME:-~/.cache}/tavrel-writer/qt6-windows
 
 is_qt() { [ -e "$1/lib/cmake/Qt6Widgets/Qt6WidgetsConfig.cmake" ]; }
 
@@ -19,6 +19,15 @@ unpack_qt() {
   unpacked=$(mktemp -d "$QT_CACHE.XXXXXX") || return
   if tar -xf "$1" -C "$unpacked"; then cache_qt "$unpacked/qt6-windows"; fi
   rm -rf "$unpacked"
+}
+
+build_qt() {
+  local built status=0
+  mkdir -p "$(dirname "$QT_CACHE")"
+  built=$(mktemp -d "$QT_CACHE.XXXXXX")
+  packaging/windows/build-qt "$built" || status=$?
+  if [ "$status" -eq 0 ]; then cache_qt "$built"; else rm -rf "$built"; fi
+  return "$status"
 }
 
 find_qt() {
