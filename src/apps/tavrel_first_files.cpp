@@ -20,7 +20,7 @@ void WriteFirstFiles(const std::filesystem::path& folder) {
   const auto platform = MakeSystemPlatform();
   Global global;
   global.ProgramFolder = folder;
-  EnterProgramFolder(folder);
+  EnterProgramFolder(folder, *platform);
   InstallFirstFiles(folder, *platform);
   InstallHelpPage(folder, *platform);
   DefaultSettings(global, *platform);

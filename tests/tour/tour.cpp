@@ -76,7 +76,7 @@ bool Tour::Play() {
 }
 
 void Tour::StartProgram() {
-  EnterProgramFolder(state_.ProgramFolder);
+  EnterProgramFolder(state_.ProgramFolder, platform_);
   InstallFirstFiles(state_.ProgramFolder, platform_);
   window_ = std::make_unique<Main>(app_);
   program_.Run([this] { window_->Form_Load(); });

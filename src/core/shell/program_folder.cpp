@@ -30,9 +30,10 @@ fs::path FindProgramFolder(const fs::path& executable_folder, const fs::path& do
   return WithCapitalDrive(documents_folder / "Tavrel Writer");
 }
 
-void EnterProgramFolder(const fs::path& folder) {
+void EnterProgramFolder(const fs::path& folder, const Platform& platform) {
   std::error_code error;
   fs::create_directories(folder, error);
+  if (!error) error = platform.WhyNotReadable(folder);
   if (!error) fs::current_path(folder, error);
   if (error) throw FileError(folder, "could not be opened", error);
 }

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "core/document/global.h"
+#include "core/platform.h"
 
 namespace tavrel {
 
@@ -11,8 +12,9 @@ namespace tavrel {
 std::filesystem::path FindProgramFolder(const std::filesystem::path& executable_folder,
                                         const std::filesystem::path& documents_folder);
 
-/// Makes the program's folder if it is missing, and makes it the current folder. Throws FileError.
-void EnterProgramFolder(const std::filesystem::path& folder);
+/// Makes the program's folder if it is missing, and makes it the current folder. Throws FileError, also if
+/// its files cannot be listed.
+void EnterProgramFolder(const std::filesystem::path& folder, const Platform& platform);
 
 /// Whether the program has never run to the point where it writes its settings.
 bool IsFirstStart(const std::filesystem::path& folder);

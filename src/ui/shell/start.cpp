@@ -8,7 +8,6 @@
 
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
-#include "core/text/run_time_error.h"
 #include "platform/system_platform.h"
 #include "ui/app.h"
 #include "ui/controls/message_box.h"
@@ -27,11 +26,7 @@ void OpenProgramFolder(Global& global, Platform& platform) {
   global.ProgramFolder =
       FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
                         ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
-  if (platform.WhyNotReadable(global.ProgramFolder) == std::errc::filename_too_long) {
-    throw FileError(global.ProgramFolder, "could not be opened",
-                    std::make_error_code(std::errc::filename_too_long));
-  }
-  EnterProgramFolder(global.ProgramFolder);
+  EnterProgramFolder(global.ProgramFolder, platform);
   if (IsFirstStart(global.ProgramFolder)) InstallFirstFiles(global.ProgramFolder, platform);
   InstallHelpPage(global.ProgramFolder, platform);
 }

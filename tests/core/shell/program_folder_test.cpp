@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/text/run_time_error.h"
+#include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 
 namespace tavrel::test {
@@ -50,14 +51,14 @@ TEST(FindProgramFolder, MakesNothing) {
 TEST(EnterProgramFolder, MakesTheFolderOnFirstStart) {
   const TemporaryFolder folder;
   const fs::path made = folder.Path() / "Documents" / "Tavrel Writer";
-  EnterProgramFolder(made);
+  EnterProgramFolder(made, FakePlatform());
   EXPECT_EQ(fs::current_path(), made);
 }
 
 TEST(EnterProgramFolder, MakesAnExistingFolderCurrent) {
   const TemporaryFolder folder;
   folder.Write("Guide.dat", "x");
-  EnterProgramFolder(folder.Path());
+  EnterProgramFolder(folder.Path(), FakePlatform());
   EXPECT_EQ(fs::current_path(), folder.Path());
   EXPECT_EQ(folder.Read("Guide.dat"), "x");
 }
@@ -67,9 +68,19 @@ TEST(EnterProgramFolder, NamesAFolderThatCannotBeEntered) {
   folder.Write("file", "x");
   const fs::path before = fs::current_path();
   for (const fs::path& impossible : {folder.Path() / "file", folder.Path() / "file" / "Tavrel Writer"}) {
-    EXPECT_THAT([&] { EnterProgramFolder(impossible); },
+    EXPECT_THAT([&] { EnterProgramFolder(impossible, FakePlatform()); },
                 ThrowsMessage<FileError>(HasSubstr(PathText(impossible))));
   }
+  EXPECT_EQ(fs::current_path(), before);
+}
+
+TEST(EnterProgramFolder, NamesAFolderThatCannotBeListed) {
+  const TemporaryFolder folder;
+  const fs::path before = fs::current_path();
+  FakePlatform system;
+  system.NotReadable = {folder.Path()};
+  EXPECT_THAT([&] { EnterProgramFolder(folder.Path(), system); },
+              ThrowsMessage<FileError>(HasSubstr(PathText(folder.Path()))));
   EXPECT_EQ(fs::current_path(), before);
 }
 
