@@ -1,8 +1,11 @@
 #include "platform/whole_file.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <random>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/text/run_time_error.h"
 
@@ -13,10 +16,25 @@ namespace fs = std::filesystem;
 
 constexpr int kNameTries = 100;
 
-/// Names of temporary files match no pattern of the program's file lists.
+// Names of temporary files match no pattern of the program's file lists.
+constexpr std::string_view kTemporaryStart = ".tavrel-";
+constexpr std::string_view kTemporaryEnd = ".tmp";
+
 fs::path TemporaryName(const fs::path& folder) {
-  static std::minstd_rand random{std::random_device{}()};
-  return folder / (".tavrel-" + std::to_string(random()) + ".tmp");
+  // Documents are saved on one thread and kept safe on another.
+  thread_local std::minstd_rand random{std::random_device{}()};
+  return folder / (std::string(kTemporaryStart) + std::to_string(random()) + std::string(kTemporaryEnd));
+}
+
+bool IsTemporaryName(const fs::path& name) {
+  const fs::path::string_type& text = name.native();
+  const fs::path::string_type start = fs::path(kTemporaryStart).native();
+  const fs::path::string_type end = fs::path(kTemporaryEnd).native();
+  if (text.size() <= start.size() + end.size() || !text.starts_with(start) || !text.ends_with(end))
+    return false;
+  return std::all_of(text.begin() + static_cast<std::ptrdiff_t>(start.size()),
+                     text.end() - static_cast<std::ptrdiff_t>(end.size()),
+                     [](fs::path::value_type c) { return c >= '0' && c <= '9'; });
 }
 
 /// The file behind a symbolic link, also if it does not exist yet.
@@ -34,12 +52,20 @@ fs::path WhereLinkLeads(fs::path file, std::error_code& error) {
   return file;
 }
 
+/// What is neither a file nor a folder is no place for one: opening a pipe would wait for somebody to read
+/// from it, and a device must not be replaced or removed.
+std::error_code WhyNoPlaceForAFile(const fs::file_status& status) {
+  const bool is_other = fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status);
+  return is_other ? std::make_error_code(std::errc::operation_not_supported) : std::error_code();
+}
+
 /// A folder cannot be replaced, and a file that may not be written must not be.
 std::error_code WhyNotReplaceable(const fs::path& target) {
   constexpr fs::perms kAnyWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
   std::error_code error;
   const fs::file_status status = fs::status(target, error);
   if (fs::is_directory(status)) return std::make_error_code(std::errc::is_a_directory);
+  if (const std::error_code other = WhyNoPlaceForAFile(status)) return other;
   const bool read_only = fs::exists(status) && (status.permissions() & kAnyWrite) == fs::perms::none;
   return read_only ? std::make_error_code(std::errc::permission_denied) : std::error_code();
 }
@@ -130,11 +156,13 @@ void CopyParts(FileLayer& files, const fs::path& from, int source, const fs::pat
 }
 
 std::error_code WritePlain(FileLayer& files, const fs::path& file, std::string_view bytes) {
+  std::error_code ignored;
+  std::error_code error = WhyNoPlaceForAFile(fs::status(file, ignored));
+  if (error) return error;
   int handle = -1;
-  std::error_code error = files.CreateOrEmpty(file, handle);
+  error = files.CreateOrEmpty(file, handle);
   if (error) return error;
   error = WriteAndClose(files, handle, bytes, false);
-  std::error_code ignored;
   if (error) files.Remove(WhereLinkLeads(file, ignored));
   return error;
 }
@@ -145,6 +173,17 @@ void WriteWholeFile(FileLayer& files, const fs::path& file, std::string_view byt
   if (const std::error_code error = ReplaceWhole(files, file, bytes)) {
     throw FileError(file, "could not be written", error);
   }
+}
+
+void RemoveTemporaries(const fs::path& folder) {
+  std::error_code error;
+  std::vector<fs::path> left;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    std::error_code ignored;
+    const bool is_file = entry->symlink_status(ignored).type() == fs::file_type::regular;
+    if (is_file && IsTemporaryName(entry->path().filename())) left.push_back(entry->path());
+  }
+  for (const fs::path& file : left) fs::remove(file, error);
 }
 
 void WritePlainFile(FileLayer& files, const fs::path& file, std::string_view bytes) {
@@ -159,11 +198,7 @@ void CopyPlainFile(FileLayer& files, const fs::path& from, const fs::path& to) {
   if (fs::is_directory(from, ignored)) {
     throw FileError(from, "could not be read", std::make_error_code(std::errc::is_a_directory));
   }
-  const fs::file_status there = fs::status(to, ignored);
-  if (fs::exists(there) && !fs::is_regular_file(there) && !fs::is_directory(there)) {
-    // Opening a pipe would wait for somebody to read from it.
-    throw FileError(to, "could not be written", std::make_error_code(std::errc::operation_not_supported));
-  }
+  ThrowIf(WhyNoPlaceForAFile(fs::status(to, ignored)), to, "could not be written");
   OpenFile source(files);
   OpenFile target(files);
   ThrowIf(files.Open(from, source.Handle()), from, "could not be read");

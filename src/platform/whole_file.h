@@ -11,6 +11,10 @@ namespace tavrel {
 /// points to replaced. Throws FileError.
 void WriteWholeFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);
 
+/// Removes the temporary files that a program left in a folder when it was killed while it wrote there. No
+/// other program may be writing there meanwhile. What cannot be removed stays.
+void RemoveTemporaries(const std::filesystem::path& folder);
+
 /// Creates or replaces a file in place; removes it again if it cannot be written to its end. Throws
 /// FileError.
 void WritePlainFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);

@@ -1,12 +1,15 @@
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QSettings>
 #include <QSplitter>
+#include <QTest>
 #include <QTimer>
 
+#include <cstdlib>
 #include <filesystem>
 #include <functional>
 #include <iostream>
@@ -22,6 +25,8 @@ namespace {
 
 using namespace tavrel::test;
 namespace fs = std::filesystem;
+
+constexpr int kKilled = 9;
 
 QMainWindow* MainWindow() {
   for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -56,7 +61,8 @@ void PlayWhenUp(QWidget& window, const QString& name, const std::function<void(Q
 
 /// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder
 /// in a file's place and vanish moves the program's folder away; size=WIDTHxHEIGHT, panes=LEFT resizes the
-/// window and its list of pages, and tell-size prints how large they are.
+/// window and its list of pages, and tell-size prints how large they are; wait-for=FILE waits until there is
+/// one, tell-cover prints what was brought back, and kill ends the program as from outside.
 void Play(QMainWindow& window, const QString& command) {
   const QString argument = command.section('=', 1);
   if (command.startsWith("open=")) {
@@ -94,6 +100,14 @@ void Play(QMainWindow& window, const QString& command) {
   } else if (command == "tell-size") {
     std::cout << "size: " << window.width() << "x" << window.height()
               << " panes: " << Find<QSplitter>(window, "Panes").sizes().value(0) << std::endl;
+  } else if (command.startsWith("wait-for=")) {
+    while (!fs::exists(argument.toStdString())) QTest::qWait(10);
+  } else if (command == "tell-cover") {
+    const auto& notice = Find<QLabel>(window, "CoverRecovered");
+    if (notice.isVisible()) std::cout << "cover: " << notice.text().toStdString() << std::endl;
+  } else if (command == "kill") {
+    // The end that no program hears of.
+    std::_Exit(kKilled);
   } else if (command == "exit") {
     ChooseMenu(window, "FileExit");
   } else if (command == "close") {

@@ -1,5 +1,6 @@
 #include "core/document/document_file.h"
 
+#include <optional>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -34,8 +35,13 @@ StoredLine Split(std::string_view line) {
   return {TrimBlanks(index), comma == std::string_view::npos ? std::string_view() : line.substr(comma + 1)};
 }
 
-int CheckedIndex(std::string_view field, int last) {
+/// What becomes of a document with damaged lines.
+enum class Damage { Refused, Skipped };
+
+/// The number of an entry; nothing if its line is to be skipped.
+std::optional<int> EntryIndex(std::string_view field, int last, Damage damage) {
   const int index = WholeValue(field);
+  if (damage == Damage::Skipped) return index >= 1 && index <= last ? std::optional(index) : std::nullopt;
   if (index < 0 || index > last) {
     throw RunTimeError("The document is damaged: it has an entry numbered " + Quoted(field) +
                        ", but only 0 to " + std::to_string(last) +
@@ -46,27 +52,36 @@ int CheckedIndex(std::string_view field, int last) {
 
 using Entries = std::vector<std::pair<int, std::string>>;
 
-Entries ReadMusicLinks(LineReader& lines) {
+Entries ReadMusicLinks(LineReader& lines, Damage damage) {
   Entries music_links;
-  while (true) {
-    if (lines.AtEnd()) {
-      throw RunTimeError(
-          "The document is damaged: it ends before its pages.\n"
-          "Restore its backup (File > Restore) or repair it in a text editor.");
-    }
+  while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
     if (line.Index.empty()) return music_links;
-    music_links.emplace_back(CheckedIndex(line.Index, kLastMusicLink), line.Record);
+    if (const auto index = EntryIndex(line.Index, kLastMusicLink, damage))
+      music_links.emplace_back(*index, line.Record);
   }
+  if (damage == Damage::Skipped) return music_links;
+  throw RunTimeError(
+      "The document is damaged: it ends before its pages.\n"
+      "Restore its backup (File > Restore) or repair it in a text editor.");
 }
 
-Entries ReadPages(LineReader& lines) {
+Entries ReadPages(LineReader& lines, Damage damage) {
   Entries pages;
   while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
-    pages.emplace_back(CheckedIndex(line.Index, kLastReadPage), WithLineBreaks(line.Record));
+    if (const auto index = EntryIndex(line.Index, kLastReadPage, damage))
+      pages.emplace_back(*index, WithLineBreaks(line.Record));
   }
   return pages;
+}
+
+void ReadText(std::string_view text, Global& global, Damage damage) {
+  LineReader lines(text);
+  Entries music_links = ReadMusicLinks(lines, damage);
+  Entries pages = ReadPages(lines, damage);
+  for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
+  for (auto& [index, record] : pages) global.Page(index) = std::move(record);
 }
 
 }  // namespace
@@ -98,8 +113,12 @@ void DeleteDocument(const std::filesystem::path& folder, const std::filesystem::
 }
 
 std::string DocumentText(const Global& global) {
+  return DocumentText(global, global.CurrentPage, global.Page(global.CurrentPage));
+}
+
+std::string DocumentText(const Global& global, int typed_page, const std::string& typed_record) {
   constexpr std::size_t kIndexAndEnd = 16;
-  std::size_t size = 0;
+  std::size_t size = typed_record.size();
   for (const std::string& page : global.Pages) size += page.size() + kIndexAndEnd;
   for (const std::string& link : global.MusicLinks) size += link.size() + kIndexAndEnd;
   std::string text;
@@ -110,17 +129,18 @@ std::string DocumentText(const Global& global) {
   }
   text.append(kLineEnd);
   for (int page = 0; page <= kLastPage; ++page) {
-    if (!global.Page(page).empty()) AppendLine(text, page, OnOneLine(global.Page(page)));
+    const std::string& record = page == typed_page ? typed_record : global.Page(page);
+    if (!record.empty()) AppendLine(text, page, OnOneLine(record));
   }
   return text;
 }
 
 void ReadDocumentText(std::string_view text, Global& global) {
-  LineReader lines(text);
-  Entries music_links = ReadMusicLinks(lines);
-  Entries pages = ReadPages(lines);
-  for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
-  for (auto& [index, record] : pages) global.Page(index) = std::move(record);
+  ReadText(text, global, Damage::Refused);
+}
+
+void SalvageDocumentText(std::string_view text, Global& global) {
+  ReadText(text, global, Damage::Skipped);
 }
 
 }  // namespace tavrel

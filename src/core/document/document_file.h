@@ -25,8 +25,14 @@ void DeleteDocument(const std::filesystem::path& folder, const std::filesystem::
 /// The bytes of a document file.
 std::string DocumentText(const Global& global);
 
+/// The same with another record in one page's place, as a person is typing it.
+std::string DocumentText(const Global& global, int typed_page, const std::string& typed_record);
+
 /// The opposite of DocumentText. Throws RunTimeError, with nothing changed, if an index is out of range or
 /// the text ends before the empty line.
 void ReadDocumentText(std::string_view text, Global& global);
+
+/// Reads what can be read of a damaged document: every line that numbers a page or a music link.
+void SalvageDocumentText(std::string_view text, Global& global);
 
 }  // namespace tavrel

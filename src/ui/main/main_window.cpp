@@ -113,13 +113,12 @@ void Main::LoadPage(int page) {
   page_->ShowLink(fields.Links.front());
   app_.State.CurrentLink = 1;
   grids_->SelectPage(page);
+  shown_record_ = RecordOfFields();
 }
 
 void Main::SavePage() {
   UpdateGrid2();
-  PageFields fields = page_->TypedFields();
-  fields.Links = grids_->Links();
-  app_.State.Page(app_.State.CurrentPage) = BuildPage(fields, app_.CodePageInUse());
+  app_.State.Page(app_.State.CurrentPage) = BuildPage(StoredFields(), app_.CodePageInUse());
   UpdateGrid2();
   MoveFocusToBody();
 }
@@ -136,6 +135,32 @@ void Main::StoreTyped() {
   if (!app_.State.IsDocumentShown) return;
   UpdateGrid1();
   SavePage();
+}
+
+PageFields Main::StoredFields() const {
+  PageFields fields = page_->TypedFields();
+  fields.Links = grids_->Links();
+  return fields;
+}
+
+std::string Main::RecordOfFields() const {
+  PageFields fields = StoredFields();
+  fields.Links.at(static_cast<std::size_t>(app_.State.CurrentLink) - 1) = page_->TypedLink();
+  return BuildPage(fields, app_.CodePageInUse());
+}
+
+std::string Main::TypedPage() const {
+  std::string typed = RecordOfFields();
+  return typed == shown_record_ ? app_.State.Page(app_.State.CurrentPage) : typed;
+}
+
+void Main::TellRecovered(const QString& notice) {
+  ui_->CoverRecovered->setText(notice);
+  ui_->CoverRecovered->setVisible(!notice.isEmpty());
+}
+
+void Main::TellNotKept(const QString& reason) {
+  statusBar()->showMessage(tr("Nothing is kept for a crash: %1").arg(QString(reason).replace('\n', ' ')));
 }
 
 void Main::ClearGrid1() {

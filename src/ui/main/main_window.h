@@ -3,7 +3,9 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <string>
 
+#include "core/document/page_record.h"
 #include "ui/app.h"
 #include "ui/main/editor.h"
 
@@ -47,6 +49,15 @@ class Main : public QMainWindow, public Editor {
   /// Brings everything typed in the fields into the current page's record, whatever has the focus.
   void StoreTyped();
 
+  /// The current page's record as it would be if all that is typed were stored now. An untouched page keeps
+  /// its record as it is.
+  std::string TypedPage() const;
+
+  /// Says on the cover what was brought back at the start.
+  void TellRecovered(const QString& notice);
+  /// Says in the status bar that a draft could not be kept.
+  void TellNotKept(const QString& reason);
+
  public slots:
   /// Start-up: settings, skins and the state without a document. Throws RunTimeError.
   void Form_Load();
@@ -75,6 +86,10 @@ class Main : public QMainWindow, public Editor {
   void ConnectFields();
   void MoveFocusToBody();
   void NameSeparators();
+  /// The fields and the links grid, without the link that is being typed.
+  PageFields StoredFields() const;
+  /// The record that the fields give with it.
+  std::string RecordOfFields() const;
 
   App& app_;
   std::unique_ptr<Ui::Main> ui_;
@@ -85,6 +100,7 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<HoverOutline> outline_;
   QTimer* timer1_;
+  std::string shown_record_;  ///< what the fields gave when the page was shown
 };
 
 }  // namespace tavrel

@@ -62,6 +62,7 @@ std::string RunningProgram::Rescue() {
   const std::filesystem::path copy = RescueDocument(
       global_, platform_, {global_.ProgramFolder, ToPath(QDir::homePath()), ToPath(QDir::tempPath())});
   if (copy.empty()) return "\nThe project could not be brought to safety: no folder could be written to.";
+  if (after_rescue_ && complete) after_rescue_();
   const std::string typed =
       complete ? ", with everything you typed, in\n" : ", but for the page you were on, in\n";
   return "\nYour project is safe" + typed + PathText(copy) + "\n";

@@ -18,6 +18,9 @@ class RunningProgram final : public ProgramControl {
   /// `store` brings what is typed but not yet stored into the document; Fail runs it first.
   void SetStoreTyped(std::function<void()> store) { store_typed_ = std::move(store); }
 
+  /// `forget` is run when the document was brought to safety after an error.
+  void SetAfterRescue(std::function<void()> forget) { after_rescue_ = std::move(forget); }
+
   /// `remember` is run when the program ends at the user's wish.
   void SetBeforeEnd(std::function<void()> remember) { before_end_ = std::move(remember); }
 
@@ -39,6 +42,7 @@ class RunningProgram final : public ProgramControl {
   Platform& platform_;
   MessageService& messages_;
   std::function<void()> store_typed_;
+  std::function<void()> after_rescue_;
   std::function<void()> before_end_;
   bool failing_ = false;
 };

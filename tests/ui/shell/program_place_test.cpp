@@ -1,0 +1,111 @@
+#include "ui/shell/program_place.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+
+#include "support/fake_platform.h"
+#include "support/temporary_folder.h"
+
+namespace tavrel::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+const std::string kPage = "\r\n 1 ,<title>A</title>\r\n";
+const std::string kDraft = "recovery,24,Guide.dat\r\n" + kPage;
+
+class ProgramPlaceTest : public testing::Test {
+ protected:
+  FoundAtStart Enter(ProgramPlace& place) { return place.Enter(Folder.Path(), System); }
+
+  TemporaryFolder Folder;
+  FakePlatform System;
+  ProgramPlace First;
+  ProgramPlace Second;
+};
+
+TEST_F(ProgramPlaceTest, TheFirstProgramHasTheFirstPlace) {
+  const FoundAtStart found = Enter(First);
+  EXPECT_TRUE(found.Documents.empty());
+  EXPECT_TRUE(found.Troubles.empty());
+  EXPECT_EQ(First.RecoveryFile(), Folder.Path() / ".tavrel-1.recovery");
+}
+
+TEST_F(ProgramPlaceTest, ARunningProgramsDraftIsLeftAlone) {
+  Enter(First);
+  Folder.Write(First.RecoveryFile(), kDraft);
+  const FoundAtStart found = Enter(Second);
+  EXPECT_TRUE(found.Documents.empty());
+  EXPECT_EQ(Second.RecoveryFile(), Folder.Path() / ".tavrel-2.recovery");
+  EXPECT_EQ(Folder.Read(First.RecoveryFile()), kDraft);
+}
+
+TEST_F(ProgramPlaceTest, TheDraftOfAProgramThatEndedIsBroughtBack) {
+  Enter(First);
+  Folder.Write(First.RecoveryFile(), kDraft);
+  First.Leave();
+  const FoundAtStart found = Enter(Second);
+  ASSERT_EQ(found.Documents.size(), 1U);
+  EXPECT_EQ(found.Documents[0].Document, Folder.Path() / "Guide (recovered).dat");
+  EXPECT_EQ(Folder.Read("Guide (recovered).dat"), kPage);
+  EXPECT_EQ(Second.RecoveryFile(), Folder.Path() / ".tavrel-1.recovery");
+  EXPECT_FALSE(Folder.Has(".tavrel-1.recovery"));
+}
+
+TEST_F(ProgramPlaceTest, DraftsOfSeveralProgramsAreBroughtBackAtOnce) {
+  for (const char* name : {".tavrel-1.recovery", ".tavrel-3.recovery", ".tavrel-99.recovery"})
+    Folder.Write(name, kDraft);
+  EXPECT_EQ(Enter(First).Documents.size(), 3U);
+  for (const char* name : {"Guide (recovered).dat", "Guide 2 (recovered).dat", "Guide 3 (recovered).dat"})
+    EXPECT_EQ(Folder.Read(name), kPage) << name;
+}
+
+TEST_F(ProgramPlaceTest, NoClockCountsOnlyWhetherTheProgramStillRuns) {
+  Enter(First);
+  Folder.Write(First.RecoveryFile(), kDraft);
+  for (const std::chrono::hours shift : {std::chrono::hours(-100000), std::chrono::hours(100000)}) {
+    const auto moved = fs::file_time_type::clock::now() + shift;
+    fs::last_write_time(First.RecoveryFile(), moved);
+    fs::last_write_time(Folder.Path() / ".tavrel-1.lock", moved);
+    EXPECT_TRUE(Enter(Second).Documents.empty());
+    Second.Leave();
+  }
+  First.Leave();
+  EXPECT_EQ(Enter(Second).Documents.size(), 1U);
+}
+
+TEST_F(ProgramPlaceTest, AnUnreadableDraftIsToldAndItsPlaceLeftFree) {
+  fs::create_directory(Folder.Path() / ".tavrel-1.recovery");
+  const FoundAtStart found = Enter(First);
+  ASSERT_EQ(found.Troubles.size(), 1U);
+  EXPECT_NE(found.Troubles[0].find(".tavrel-1.recovery\ncould not be read"), std::string::npos)
+      << found.Troubles[0];
+  EXPECT_EQ(First.RecoveryFile(), Folder.Path() / ".tavrel-2.recovery");
+  EXPECT_TRUE(fs::is_directory(Folder.Path() / ".tavrel-1.recovery"));
+}
+
+TEST_F(ProgramPlaceTest, WhatIsHalfWrittenIsClearedUnlessAnotherProgramRuns) {
+  Folder.Write(".tavrel-5.tmp", "half");
+  Enter(First);
+  EXPECT_FALSE(Folder.Has(".tavrel-5.tmp"));
+  Folder.Write(".tavrel-5.tmp", "being written");
+  Enter(Second);
+  EXPECT_TRUE(Folder.Has(".tavrel-5.tmp"));
+}
+
+TEST_F(ProgramPlaceTest, NothingIsLeftBehind) {
+  Enter(First);
+  Enter(Second);
+  First.Leave();
+  Second.Leave();
+  EXPECT_TRUE(Folder.Files().empty());
+}
+
+TEST_F(ProgramPlaceTest, WithoutAFolderToWriteToThereIsNoPlace) {
+  const FoundAtStart found = First.Enter(Folder.Path() / "gone", System);
+  EXPECT_TRUE(found.Documents.empty());
+  EXPECT_TRUE(First.RecoveryFile().empty());
+}
+
+}  // namespace
+}  // namespace tavrel::test
