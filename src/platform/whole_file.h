@@ -8,7 +8,7 @@
 namespace tavrel {
 
 /// Writes a file whole or not at all, through a temporary file beside it. A symbolic link is kept and what it
-/// points to replaced. Throws FileError.
+/// points to replaced; a second name of the old file (a hard link) keeps the old bytes. Throws FileError.
 void WriteWholeFile(FileLayer& files, const std::filesystem::path& file, std::string_view bytes);
 
 /// Removes the temporary files that a program left in a folder when it was killed while it wrote there. No
