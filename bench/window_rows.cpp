@@ -14,6 +14,7 @@
 #include "support/temporary_folder.h"
 #include "ui/ipod/music_editor.h"
 #include "ui/main/main_window.h"
+#include "ui/shell/recovery_keeper.h"
 
 namespace tavrel::bench {
 namespace {
@@ -96,6 +97,14 @@ double TimeMusicEditor(OpenEditor& editor) {
   return seconds;
 }
 
+/// What keeping a changed draft costs the window; the rest is done on another thread.
+double TimeDraft(OpenEditor& editor, RecoveryKeeper& keeper) {
+  editor.State.Page(kLastPage) += ' ';
+  const double seconds = Seconds([&] { keeper.Look(); });
+  keeper.WaitUntilKept();
+  return seconds;
+}
+
 }  // namespace
 
 std::vector<Row> WindowRows() {
@@ -103,13 +112,18 @@ std::vector<Row> WindowRows() {
   auto* body = editor.Window.findChild<QPlainTextEdit*>("Text1");
   if (body == nullptr) throw std::runtime_error("the main window has no page text");
   PaintWatch watch(*body->viewport());
+  RecoveryKeeper keeper(editor.Application, editor.Folder.Path() / "draft.recovery",
+                        [&editor] { return editor.Window.TypedPage(); });
   const auto frame = [] { return kFrame; };
   return {Compare(
               "store a page, show another : 60 Hz frame", 0.5, kMoves,
               [&] { return TimeMove(editor, watch); }, frame),
           Compare(
               "open the Music Editor : 60 Hz frame", 1, kOpenings, [&] { return TimeMusicEditor(editor); },
-              frame)};
+              frame),
+          Compare(
+              "take a draft to be kept : 60 Hz frame", 1, kOpenings,
+              [&] { return TimeDraft(editor, keeper); }, frame)};
 }
 
 }  // namespace tavrel::bench

@@ -18,6 +18,9 @@
 #include "ui/controls/grid.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/shell/first_start.h"
+#include "ui/shell/program_place.h"
+#include "ui/shell/recovery_keeper.h"
+#include "ui/shell/recovery_notice.h"
 
 namespace tavrel::test {
 
@@ -66,6 +69,7 @@ bool Tour::Play() {
   ReadTheSample();
   ImportBack();
   LookAtTheOtherDialogs();
+  ComeBackAfterACrash();
 
   for (const QString& fault : robot_.Faults()) std::cout << "fault: " << fault.toStdString() << '\n';
   for (const std::string& failure : program_.Failures) std::cout << "run-time error: " << failure << '\n';
@@ -206,6 +210,26 @@ void Tour::LookAtTheOtherDialogs() {
   Choose("HelpAbout");
   AnswerMessage("close-question", "OK");
   Choose("FileClose");
+}
+
+void Tour::ComeBackAfterACrash() {
+  robot_.Expect("OpenDoc", [](QWidget& dialog) {
+    ClickListRow(Find<QListWidget>(dialog, "List1"), "City walk");
+    Click(dialog, "Command1");
+  });
+  Choose("FileOpen");
+  TypeInto(*window_, "Text4", "Typed a moment before the crash");
+  ProgramPlace place;
+  place.Enter(state_.ProgramFolder, platform_);
+  RecoveryKeeper(app_, place.RecoveryFile(), [this] { return window_->TypedPage(); }).KeepLast();
+  place.Leave();
+
+  window_ = std::make_unique<Main>(app_);
+  program_.Run([this] { window_->Form_Load(); });
+  window_->TellRecovered(RecoveryNotice(place.Enter(state_.ProgramFolder, platform_)));
+  window_->show();
+  ActivateWindow(*window_);
+  TakePicture(*window_, "after-a-crash");
 }
 
 void Tour::Choose(const QString& menu_item) {

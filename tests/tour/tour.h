@@ -16,7 +16,7 @@
 namespace tavrel::test {
 
 /// A whole job in the real windows: a project is made, written, changed, planned, saved, backed up,
-/// published, copied to a pretend iPod and imported back.
+/// published, copied to a pretend iPod, imported back, and found again after a crash.
 class Tour {
  public:
   /// Pictures and the tour's own program folder go into `output`, which is emptied first.
@@ -44,6 +44,7 @@ class Tour {
   void ReadTheSample();
   void ImportBack();
   void LookAtTheOtherDialogs();
+  void ComeBackAfterACrash();
 
   void Choose(const QString& menu_item);
   void ShowPage(int number);
