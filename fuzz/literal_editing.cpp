@@ -35,10 +35,6 @@ char Small(char character) {
   return byte == 0x9F ? '\xFF' : character;
 }
 
-void MakeSmall(std::string& text) {
-  for (char& character : text) character = Small(character);
-}
-
 }  // namespace
 
 void LiteralRenumber(std::string& record, const LiteralRule& rule) {
@@ -80,12 +76,17 @@ void LiteralCut(Global& global, int page) {
   RenumberAll(global, AfterCutAt(page));
 }
 
+std::string LiteralSmall(std::string text) {
+  for (char& character : text) character = Small(character);
+  return text;
+}
+
 std::optional<std::string> LiteralReplace(std::string text, std::string wanted,
                                           const std::string& replacement, bool match_case) {
   std::string searched = text;
   if (!match_case) {
-    MakeSmall(searched);
-    MakeSmall(wanted);
+    searched = LiteralSmall(searched);
+    wanted = LiteralSmall(wanted);
   }
   std::size_t position = Position(searched, wanted, 1);
   for (int matches = 0; position >= 1 && position <= 32767; ++matches) {

@@ -24,6 +24,9 @@ LiteralRule AfterSwapOf(int page, int other);
 void LiteralInsert(Global& global, int page);
 void LiteralCut(Global& global, int page);
 
+/// The text in small letters of Windows-1252.
+std::string LiteralSmall(std::string text);
+
 /// Moves the rest of the text for each match. Gives up, with nothing, once it is longer than 40,000
 /// characters or after 100 matches.
 std::optional<std::string> LiteralReplace(std::string text, std::string wanted,

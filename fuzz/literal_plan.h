@@ -15,4 +15,7 @@ std::vector<std::string> ValuesOf(const Plan& plan);
 /// The same values read from a file. Throws RunTimeError if it ends early or a tick is none.
 std::vector<std::string> LiteralReadPlan(const std::string& file);
 
+/// The first fields of a file. Throws RunTimeError if it has fewer.
+std::vector<std::string> LiteralReadFields(std::string bytes, int count);
+
 }  // namespace tavrel::fuzz

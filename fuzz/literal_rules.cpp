@@ -47,20 +47,6 @@ double LeadingNumber(const std::string& text) {
   return std::strtod(number.c_str(), nullptr);
 }
 
-std::string LiteralGetMusic(const Global& global, const std::string& reference) {
-  if (reference.size() < 2) return "\\";
-  const double number = std::nearbyint(LeadingNumber(reference.substr(1)));
-  if (!(number >= 0 && number <= 100)) throw RunTimeError("no such music link");
-  const std::string& record = global.MusicLinks[static_cast<std::size_t>(number)];
-  std::string query;
-  for (const std::string field : {"song", "album", "composer", "artist", "genre", "playlist"}) {
-    const std::string value = LiteralGetTag(record, "<" + field + ">", 1);
-    if (!value.empty()) query += "&" + field + "=" + value;
-  }
-  if (query.empty()) return "\\";
-  return "ipod:music?" + query.substr(1);
-}
-
 std::string Target(const Global& global, const std::string& link_to) {
   if (LeadingNumber(link_to) > 0) return "z" + link_to + ".txt";
   return LiteralGetMusic(global, link_to);
@@ -145,6 +131,20 @@ void LiteralSetTag(std::string& text, const std::string& value, const std::strin
   position += tag.size() - 1;
   const std::size_t end = Position(text, Closing(tag), position);
   if (end >= 1) text = text.substr(0, position) + value + text.substr(end - 1);
+}
+
+std::string LiteralGetMusic(const Global& global, const std::string& reference) {
+  if (reference.size() < 2) return "\\";
+  const double number = std::nearbyint(LeadingNumber(reference.substr(1)));
+  if (!(number >= 0 && number <= 100)) throw RunTimeError("no such music link");
+  const std::string& record = global.MusicLinks[static_cast<std::size_t>(number)];
+  std::string query;
+  for (const std::string field : {"song", "album", "composer", "artist", "genre", "playlist"}) {
+    const std::string value = LiteralGetTag(record, "<" + field + ">", 1);
+    if (!value.empty()) query += "&" + field + "=" + value;
+  }
+  if (query.empty()) return "\\";
+  return "ipod:music?" + query.substr(1);
 }
 
 std::string LiteralGetText(const Global& global, const std::string& text, int page) {

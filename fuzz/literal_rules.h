@@ -19,6 +19,7 @@ void LiteralSetTag(std::string& text, const std::string& value, const std::strin
 void LiteralReadDocument(const std::string& text, Global& global);
 
 /// Throws RunTimeError for a music link number outside 0 to 100.
+std::string LiteralGetMusic(const Global& global, const std::string& reference);
 std::string LiteralGetText(const Global& global, const std::string& text, int page);
 std::string LiteralNote(const Global& global, int page, const PublishOptions& options);
 

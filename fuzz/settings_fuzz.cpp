@@ -2,11 +2,14 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "core/shell/settings.h"
 #include "core/text/run_time_error.h"
 #include "expect.h"
+#include "literal_plan.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 
@@ -37,6 +40,15 @@ bool IsPlain(const Global& global) {
   return true;
 }
 
+/// Nothing if the file is damaged.
+std::optional<std::vector<std::string>> LiterallyRead(const std::string& bytes) {
+  try {
+    return LiteralReadFields(bytes, kLastSetting);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
 }  // namespace
 
 /// Any bytes are settings or a damaged file. Settings that are written are read back the same.
@@ -44,14 +56,19 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   test::FakePlatform platform;
   const auto first = std::make_unique<Global>();
   first->ProgramFolder = ProgramFolder();
-  WriteSettingsFile(Input(data, size).Rest());
+  const std::string bytes(Input(data, size).Rest());
+  WriteSettingsFile(bytes);
+  const std::optional<std::vector<std::string>> expected = LiterallyRead(bytes);
   try {
     LoadSettings(*first, platform);
   } catch (const RunTimeError&) {
+    Expect(!expected.has_value(), "only damaged settings are refused");
     return 0;
   }
-  for (const std::string& setting : first->Settings) {
-    Expect(setting.find('\n') == std::string::npos, "a setting is one line");
+  Expect(expected.has_value(), "damaged settings are refused");
+  for (std::size_t entry = 1; entry <= kLastSetting; ++entry) {
+    ExpectEqual(first->Settings.at(entry), expected->at(entry - 1), "the setting is read");
+    Expect(first->Settings.at(entry).find('\n') == std::string::npos, "a setting is one line");
   }
   if (!IsPlain(*first)) return 0;
 

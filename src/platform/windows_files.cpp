@@ -35,6 +35,27 @@ unsigned CallSize(std::size_t size) {
   return static_cast<unsigned>(std::min<std::size_t>(size, std::numeric_limits<int>::max()));
 }
 
+/// A file that may not be written to, or that another program keeps to itself.
+bool IsNotWritable(const std::error_code& error) {
+  return error.value() == ERROR_ACCESS_DENIED || error.value() == ERROR_SHARING_VIOLATION;
+}
+
+/// Calls the system until it succeeds, for half a second at most: virus scanners, and this program where it
+/// compares a document with its draft, keep a file to themselves for a moment.
+template <typename Call>
+std::error_code Patiently(const Call& call) {
+  constexpr int kTries = 20;
+  constexpr DWORD kPause = 25;
+  std::error_code error;
+  for (int tries = 0; tries < kTries; ++tries) {
+    if (call() != 0) return {};
+    error = LastSystemError();
+    if (!IsNotWritable(error)) return error;
+    ::Sleep(kPause);
+  }
+  return error;
+}
+
 class WindowsFiles final : public FileLayer {
  public:
   std::error_code CreateNew(const fs::path& file, const fs::path& /*like*/, int& handle) override {
@@ -70,9 +91,9 @@ class WindowsFiles final : public FileLayer {
 
   std::error_code Replace(const fs::path& from, const fs::path& to) override {
     // ReplaceFile would keep the old file's permissions, but can fail half way with the old file gone.
-    const BOOL moved =
-        ::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
-    return moved != 0 ? std::error_code() : LastSystemError();
+    return Patiently([&] {
+      return ::MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+    });
   }
 
   std::error_code FlushFolder(const fs::path& /*folder*/) override {
@@ -83,7 +104,7 @@ class WindowsFiles final : public FileLayer {
   std::error_code FlushVolume(const fs::path& folder) override;
 
   std::error_code Remove(const fs::path& file) override {
-    return ::DeleteFileW(file.c_str()) != 0 ? std::error_code() : LastSystemError();
+    return Patiently([&] { return ::DeleteFileW(file.c_str()); });
   }
 };
 
@@ -96,11 +117,6 @@ std::error_code FlushOpened(const std::wstring& name) {
   const std::error_code error = ::FlushFileBuffers(handle) != 0 ? std::error_code() : LastSystemError();
   ::CloseHandle(handle);
   return error;
-}
-
-/// A file that may not be written to, or that another program keeps to itself, was not written just now.
-bool IsNotWritable(const std::error_code& error) {
-  return error.value() == ERROR_ACCESS_DENIED || error.value() == ERROR_SHARING_VIOLATION;
 }
 
 std::error_code FlushFilesIn(const fs::path& folder) {

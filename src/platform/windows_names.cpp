@@ -40,6 +40,11 @@ bool IsNumberedDevice(std::wstring_view part) {
              kNumberedDevices.end();
 }
 
+/// The system drops these, so that a name that ends with them is another one, or the folder itself.
+bool EndsWithBlankOrStop(std::wstring_view name) {
+  return name.ends_with(L' ') || name.ends_with(L'.');
+}
+
 bool IsDevice(std::wstring_view part) {
   return std::find(kDevices.begin(), kDevices.end(), part) != kDevices.end() || IsNumberedDevice(part);
 }
@@ -49,7 +54,7 @@ bool IsDevice(std::wstring_view part) {
 bool IsNoWindowsFileName(const std::filesystem::path& name) {
   const std::wstring text = name.wstring();
   return text.size() > kLongestName || std::any_of(text.begin(), text.end(), IsRefused) ||
-         IsDevice(DevicePart(text));
+         EndsWithBlankOrStop(text) || IsDevice(DevicePart(text));
 }
 
 bool IsTooLongToList(const std::filesystem::path& folder) {

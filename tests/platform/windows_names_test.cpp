@@ -37,6 +37,15 @@ TEST(WindowsNames, ControlCharactersAreInNoName) {
                           L"b.dat"));
 }
 
+TEST(WindowsNames, ANameThatTheSystemWouldShortenIsNone) {
+  for (const wchar_t* name : {L" ", L"   ", L"Guide ", L"Guide.", L"Guide. ", L".", L"..", L"..."}) {
+    EXPECT_TRUE(IsNoWindowsFileName(name)) << fs::path(name);
+  }
+  for (const wchar_t* name : {L" Guide", L"Guide .dat", L" .dat"}) {
+    EXPECT_FALSE(IsNoWindowsFileName(name)) << fs::path(name);
+  }
+}
+
 TEST(WindowsNames, ADriveOrAHiddenStreamIsNoName) {
   EXPECT_TRUE(IsNoWindowsFileName(L"D:x"));
   EXPECT_TRUE(IsNoWindowsFileName(L"D:"));

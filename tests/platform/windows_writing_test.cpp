@@ -1,8 +1,10 @@
+#include <atomic>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <map>
 #include <string>
+#include <thread>
 
 #include "core/text/run_time_error.h"
 #include "platform/held_file.h"
@@ -144,6 +146,20 @@ TEST_F(WindowsWritingTest, KeepsAFileThatAnotherProgramHasOpen) {
     EXPECT_EQ(std::distance(fs::directory_iterator(Folder.Path()), {}), 1);
   }
   EXPECT_EQ(Folder.Files(), (FileMap{{"Guide.dat", "old"}}));
+}
+
+TEST_F(WindowsWritingTest, WaitsForAFileThatAnotherProgramHasOpenForAMoment) {
+  Folder.Write("Guide.dat", "old");
+  std::atomic<bool> is_held = false;
+  std::thread scanner([&] {
+    const HeldFile held(File(), FILE_SHARE_READ | FILE_SHARE_WRITE);
+    is_held = true;
+    ::Sleep(100);
+  });
+  while (!is_held) ::Sleep(1);
+  System->WriteWholeFile(File(), "new");
+  scanner.join();
+  EXPECT_EQ(Folder.Files(), (FileMap{{"Guide.dat", "new"}}));
 }
 
 TEST_F(WindowsWritingTest, CopiesAFileThatAnotherProgramOnlyReads) {

@@ -61,8 +61,9 @@ void PlayWhenUp(QWidget& window, const QString& name, const std::function<void(Q
 
 /// Plays one command of the command line: open=NAME, title=TEXT, save, exit, close; block=FILE puts a folder
 /// in a file's place and vanish moves the program's folder away; size=WIDTHxHEIGHT, panes=LEFT resizes the
-/// window and its list of pages, and tell-size prints how large they are; wait-for=FILE waits until there is
-/// one, tell-cover prints what was brought back, and kill ends the program as from outside.
+/// window and its list of pages, and tell-size prints how large they are; wait-for=FILE and
+/// wait-until-gone=FILE wait for a file to come and go, tell-cover prints what was brought back, and kill
+/// ends the program as from outside.
 void Play(QMainWindow& window, const QString& command) {
   const QString argument = command.section('=', 1);
   if (command.startsWith("open=")) {
@@ -102,6 +103,8 @@ void Play(QMainWindow& window, const QString& command) {
               << " panes: " << Find<QSplitter>(window, "Panes").sizes().value(0) << std::endl;
   } else if (command.startsWith("wait-for=")) {
     while (!fs::exists(argument.toStdString())) QTest::qWait(10);
+  } else if (command.startsWith("wait-until-gone=")) {
+    while (fs::exists(argument.toStdString())) QTest::qWait(1);
   } else if (command == "tell-cover") {
     const auto& notice = Find<QLabel>(window, "CoverRecovered");
     if (notice.isVisible()) std::cout << "cover: " << notice.text().toStdString() << std::endl;

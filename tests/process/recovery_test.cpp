@@ -63,6 +63,14 @@ TEST_F(RecoveryTest, NothingIsRecoveredAfterSavingAndClosing) {
   EXPECT_FALSE(IsRecovered());
 }
 
+TEST_F(RecoveryTest, WhatWasSavedJustBeforeAKillIsNotRecovered) {
+  Run({"open=Trio", "title=typed", "wait-for=.tavrel-1.recovery", "title=final", "save",
+       "wait-until-gone=.tavrel-1.recovery", "kill"});
+  Run({"tell-cover", "exit"});
+  EXPECT_FALSE(Says("cover:")) << output_;
+  EXPECT_FALSE(IsRecovered());
+}
+
 TEST_F(RecoveryTest, NothingIsRecoveredOfWhatTheUserLeft) {
   Run({"open=Trio", "title=typed", "wait-for=.tavrel-1.recovery", "exit"});
   EXPECT_EQ(FilesOfItsOwn(), 0);

@@ -31,8 +31,10 @@ class RecordedProgram final : public ProgramControl {
  public:
   std::vector<std::string> Failures;
   int Ends = 0;
+  int Settled = 0;  ///< how often the document was saved or given up
 
   void Fail(const std::exception& error) override { Failures.emplace_back(error.what()); }
+  void DocumentSettled() override { ++Settled; }
   void End() override { ++Ends; }
 };
 

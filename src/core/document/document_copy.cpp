@@ -13,14 +13,20 @@ constexpr int kMostNames = 1000;
 
 }  // namespace
 
+fs::path CopyName(const fs::path& folder, const fs::path& name, int number, std::string_view why,
+                  std::string_view extension) {
+  fs::path numbered = name;
+  if (number > 1) numbered += " " + std::to_string(number);
+  numbered += " (" + std::string(why) + ")" + std::string(extension);
+  return folder / numbered;
+}
+
 fs::path FreeName(const fs::path& folder, const fs::path& name, std::string_view why,
                   std::string_view extension) {
   for (int number = 1; number <= kMostNames; ++number) {
-    fs::path numbered = name;
-    if (number > 1) numbered += " " + std::to_string(number);
-    numbered += " (" + std::string(why) + ")" + std::string(extension);
+    fs::path copy = CopyName(folder, name, number, why, extension);
     std::error_code error;
-    if (!fs::exists(fs::symlink_status(folder / numbered, error))) return folder / numbered;
+    if (!fs::exists(fs::symlink_status(copy, error))) return copy;
   }
   return {};
 }

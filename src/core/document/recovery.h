@@ -24,6 +24,7 @@ void KeepDraft(const Draft& draft, const std::filesystem::path& recovery_file, P
 struct Recovered {
   std::filesystem::path Document;  ///< the document it is now; empty: there was nothing in it to bring back
   std::filesystem::path Damaged;   ///< where the file itself lies now if not all of it could be read
+  std::string Trouble;             ///< why the file could not be removed or renamed; empty if it could
 };
 
 /// Makes a recovery file a document of its own beside it, "NAME (recovered).dat" under a free name, and

@@ -23,18 +23,32 @@ Replacement::Replacement(std::string_view text, const TextSearch& search, std::s
 }
 
 std::string Replacement::Run() {
-  while (FindNext() && IsWithinLimits()) ReplaceMatch();
+  while (PassNextMatch() && IsWithinLimits()) ReplaceMatch();
   Pass(ahead_.size() + text_.size() - at_);
   return std::move(done_);
 }
 
-bool Replacement::FindNext() {
-  for (PassToCandidate(); !ahead_.empty(); PassToCandidate()) {
-    if (IsMatchHere()) return true;
+/// Passes all up to the end of the next match; false if there is none. Every character is looked at once, so
+/// that a match that is nearly there again and again takes no longer.
+bool Replacement::PassNextMatch() {
+  for (std::size_t matched = 0; matched < wanted_.size();) {
+    if (matched == 0) {
+      PassToCandidate();
+      if (ahead_.empty()) return PassNextMatchInText();
+    }
+    if (ahead_.empty() && at_ == text_.size()) return false;
+    matched = search_.Matched(matched, ahead_.empty() ? search_.Folded(text_[at_]) : ahead_.back());
     Pass(1);
   }
+  return true;
+}
+
+/// The same where no replacement is ahead, as it mostly is.
+bool Replacement::PassNextMatchInText() {
   Pass(search_.Find(text_, at_) - at_);
-  return at_ < text_.size();
+  if (at_ == text_.size()) return false;
+  Pass(wanted_.size());
+  return true;
 }
 
 /// A match in what is ahead can only begin where the wanted text's first character stands.
@@ -43,30 +57,18 @@ void Replacement::PassToCandidate() {
   Pass(ahead_.size() - (candidate == std::string::npos ? 0 : candidate + 1));
 }
 
-bool Replacement::IsMatchHere() const {
-  const std::size_t within = std::min(wanted_.size(), ahead_.size());
-  return std::equal(wanted_.begin(), wanted_.begin() + static_cast<std::ptrdiff_t>(within),
-                    ahead_.rbegin()) &&
-         search_.IsStartOf(text_.substr(at_), within);
-}
-
+/// Whether the match that was passed is to be replaced.
 bool Replacement::IsWithinLimits() const {
   const std::size_t length = done_.size() + ahead_.size() + text_.size() - at_;
-  return done_.size() < kLastPosition && length < most_length_;
+  return done_.size() - wanted_.size() < kLastPosition && length < most_length_;
 }
 
 void Replacement::ReplaceMatch() {
-  Drop(wanted_.size());
+  done_.resize(done_.size() - wanted_.size());
   done_ += replacement_.substr(0, plain_);
   const std::string_view rest = replacement_.substr(plain_);
   ahead_.append(rest.rbegin(), rest.rend());
   Pass(wanted_.size() - std::min(wanted_.size(), replacement_.size()));
-}
-
-void Replacement::Drop(std::size_t count) {
-  const std::size_t of_ahead = std::min(count, ahead_.size());
-  ahead_.resize(ahead_.size() - of_ahead);
-  at_ += count - of_ahead;
 }
 
 void Replacement::Pass(std::size_t count) {

@@ -18,11 +18,10 @@ class Replacement {
   std::string Run();
 
  private:
-  bool FindNext();
-  bool IsMatchHere() const;
+  bool PassNextMatch();
+  bool PassNextMatchInText();
   bool IsWithinLimits() const;
   void ReplaceMatch();
-  void Drop(std::size_t count);
   void Pass(std::size_t count);
   void PassToCandidate();
 
@@ -32,7 +31,7 @@ class Replacement {
   std::string_view replacement_;
   std::size_t most_length_;
   std::size_t plain_;   ///< so much of the replacement is not searched or cannot begin a match
-  std::string done_;    ///< what no later match can change
+  std::string done_;    ///< what was searched and, at its end, may be a match
   std::string ahead_;   ///< ends of replacements that are searched next, their last character first
   std::size_t at_ = 0;  ///< where the text goes on behind them
 };

@@ -13,6 +13,10 @@ constexpr std::size_t kBlock = 128;
 /// In so many places a single letter is looked for together.
 constexpr std::size_t kPart = 1024;
 
+/// For each place that is passed, so many characters may turn out equal at places that are no match after
+/// all.
+constexpr std::size_t kPatience = 4;
+
 std::string AllBytes() {
   std::string bytes(256, '\0');
   std::iota(bytes.begin(), bytes.end(), '\0');
@@ -27,6 +31,10 @@ TextSearch::TextSearch(std::string_view wanted, bool match_case, const CodePage&
   std::copy(bytes.begin(), bytes.end(), folded_.begin());
   first_ = FormsOf(wanted_.front());
   last_ = FormsOf(wanted_.back());
+  borders_.reserve(wanted_.size());
+  borders_.push_back(0);
+  while (borders_.size() < wanted_.size())
+    borders_.push_back(Matched(borders_.back(), wanted_[borders_.size()]));
 }
 
 TextSearch::Forms TextSearch::FormsOf(char wanted) const {
@@ -38,20 +46,15 @@ TextSearch::Forms TextSearch::FormsOf(char wanted) const {
   return forms;
 }
 
-bool TextSearch::IsStartOf(std::string_view text, std::size_t skipped) const {
-  return text.size() >= wanted_.size() - skipped &&
-         std::equal(
-             wanted_.begin() + static_cast<std::ptrdiff_t>(skipped), wanted_.end(), text.begin(),
-             [this](char wanted, char byte) { return folded_[static_cast<unsigned char>(byte)] == wanted; });
-}
-
 std::size_t TextSearch::Find(std::string_view text, std::size_t from) const {
   if (wanted_.size() == 1) return FindLetter(text, from);
+  std::size_t patience = 0;
   while (from + wanted_.size() <= text.size()) {
     const std::size_t count = std::min(kBlock, text.size() - wanted_.size() + 1 - from);
-    const std::size_t found = FindIn(text, from, count);
-    if (found < from + count) return found;
-    from += count;
+    patience += count * kPatience;
+    const std::size_t found = FindIn(text.substr(from), count, patience);
+    from += found;
+    if (found < count) return patience > 0 ? from : FindStepByStep(text, from);
   }
   return text.size();
 }
@@ -68,10 +71,12 @@ std::size_t TextSearch::FindLetter(std::string_view text, std::size_t from) cons
   return text.size();
 }
 
-std::size_t TextSearch::FindIn(std::string_view text, std::size_t from, std::size_t count) const {
+/// The first match among `count` places, or the first place that uses up the patience; `count` without
+/// either.
+std::size_t TextSearch::FindIn(std::string_view text, std::size_t count, std::size_t& patience) const {
   // Without branches, so that the compiler looks at many places at once.
   std::array<char, kBlock> candidates;
-  const char* first = text.data() + from;
+  const char* first = text.data();
   const char* last = first + wanted_.size() - 1;
   const Forms f = first_;
   const Forms l = last_;
@@ -84,9 +89,29 @@ std::size_t TextSearch::FindIn(std::string_view text, std::size_t from, std::siz
     const void* candidate = std::memchr(candidates.data() + at, 1, count - at);
     if (candidate == nullptr) break;
     at = static_cast<std::size_t>(static_cast<const char*>(candidate) - candidates.data());
-    if (IsStartOf(text.substr(from + at), 0)) return from + at;
+    const std::size_t same = SameLength(text.substr(at));
+    if (same == wanted_.size()) return at;
+    patience -= std::min(same, patience);
+    if (patience == 0) return at;
   }
-  return from + count;
+  return count;
+}
+
+/// Looks at every character only once, however often the text nearly holds what is looked for.
+std::size_t TextSearch::FindStepByStep(std::string_view text, std::size_t from) const {
+  std::size_t matched = 0;
+  for (std::size_t at = from; at < text.size(); ++at) {
+    matched = Matched(matched, Folded(text[at]));
+    if (matched == wanted_.size()) return at + 1 - matched;
+  }
+  return text.size();
+}
+
+/// How many characters at the start of the text, which is not shorter, are those that are looked for.
+std::size_t TextSearch::SameLength(std::string_view text) const {
+  const auto different = std::mismatch(wanted_.begin(), wanted_.end(), text.begin(),
+                                       [this](char wanted, char byte) { return Folded(byte) == wanted; });
+  return static_cast<std::size_t>(different.first - wanted_.begin());
 }
 
 }  // namespace tavrel

@@ -1,14 +1,17 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/text/code_page.h"
 
 namespace tavrel {
 
-/// Looks for one text in many others. If case does not matter, capitals equal their small letters.
+/// Looks for one text in many others, in a time that grows as their lengths do. If case does not matter,
+/// capitals equal their small letters.
 class TextSearch {
  public:
   /// `wanted` must not be empty.
@@ -20,8 +23,15 @@ class TextSearch {
   /// The place of the first match from `from` on; the text's size if there is none.
   std::size_t Find(std::string_view text, std::size_t from) const;
 
-  /// Whether `text` begins with what is looked for less its first `skipped` characters.
-  bool IsStartOf(std::string_view text, std::size_t skipped) const;
+  /// A character of a text as it is compared: small if case does not matter.
+  char Folded(char character) const { return folded_[static_cast<unsigned char>(character)]; }
+
+  /// For texts that come character by character: how much of what is looked for ends with a folded character,
+  /// if `matched`, which is not all of it, ended in front of that.
+  std::size_t Matched(std::size_t matched, char folded) const {
+    while (matched > 0 && wanted_[matched] != folded) matched = borders_[matched - 1];
+    return wanted_[matched] == folded ? matched + 1 : 0;
+  }
 
  private:
   /// The two bytes that equal a wanted one.
@@ -34,9 +44,12 @@ class TextSearch {
 
   Forms FormsOf(char wanted) const;
   std::size_t FindLetter(std::string_view text, std::size_t from) const;
-  std::size_t FindIn(std::string_view text, std::size_t from, std::size_t count) const;
+  std::size_t FindIn(std::string_view text, std::size_t count, std::size_t& patience) const;
+  std::size_t FindStepByStep(std::string_view text, std::size_t from) const;
+  std::size_t SameLength(std::string_view text) const;
 
   std::string wanted_;
+  std::vector<std::size_t> borders_;  ///< by last place, how much of a part's start is its end too
   std::array<char, 256> folded_;
   Forms first_;
   Forms last_;

@@ -12,7 +12,8 @@ constexpr std::string_view kClosing = "</a>";
 constexpr auto kNotFound = std::string_view::npos;
 
 [[noreturn]] void ThrowUnclosed() {
-  throw RunTimeError("The target of a link has no closing quote.");
+  throw RunTimeError(
+      "The target of a link has no closing quote.\nCorrect it in a text editor and import again.");
 }
 
 }  // namespace
@@ -57,7 +58,8 @@ std::string AnchorCutter::TakeTargetOfNote() {
 void AnchorCutter::CutClosing() {
   while (true) {
     const std::size_t bracket = note_.find(kClosing.back(), at_);
-    if (bracket == kNotFound) throw RunTimeError("A link has no </a> at its end.");
+    if (bracket == kNotFound)
+      throw RunTimeError("A link has no </a> at its end.\nCorrect it in a text editor and import again.");
     const std::string_view part = note_.substr(at_, bracket + 1 - at_);
     at_ = bracket + 1;
     if (ahead_.empty() && part.ends_with(kClosing) && part.find(kOpening.back()) == kNotFound) {

@@ -94,11 +94,20 @@ void CopyFolder(const fs::path& from, const fs::path& to, Platform& platform,
   CopiedFiles copied(platform.SystemCodePage());
   for (const fs::path& file : files) {
     const fs::path target = to / file.filename();
+    // A file that is its own copy already must not be removed.
+    if (!fs::equivalent(file, target, error)) RemoveLinkAt(target);
     copied.Add(target);
     platform.CopyPlainFile(file, target);
     progress(++done, static_cast<int>(files.size()));
   }
   platform.FlushVolumeOf(to);
+}
+
+void RemoveLinkAt(const fs::path& file) {
+  std::error_code error;
+  if (!fs::is_symlink(file, error) || fs::is_directory(file, error)) return;
+  fs::remove(file, error);
+  if (error) throw FileError(file, "could not be written", error);
 }
 
 bool DeleteFolder(const fs::path& folder, const Platform& platform) {

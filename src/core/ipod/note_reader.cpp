@@ -127,7 +127,10 @@ NoteReader::NoteReader(Global& global, const std::vector<std::string>& names, co
 }
 
 void NoteReader::ProcessInput(std::string_view note, int page) {
-  if (page > kLastRecord) throw RunTimeError("The folder holds more notes than a project has pages.");
+  if (page > kLastRecord)
+    throw RunTimeError(
+        "The folder holds more notes than a project has pages.\n"
+        "Move some of them to another folder and import again.");
   std::string content;
   content.reserve(note.size() + 2);
   content.append(" ").append(note).append(" ");
@@ -156,7 +159,10 @@ std::string NoteReader::ProcessLink(const std::string& target) const {
 std::string NoteReader::ProcessMusic(std::string_view target) {
   int number = 1;
   while (number <= kLastMusicLink && !global_.MusicLink(number).empty()) ++number;
-  if (number > kLastMusicLink) throw RunTimeError("The notes link to more than 100 pieces of music.");
+  if (number > kLastMusicLink)
+    throw RunTimeError(
+        "The notes link to more than 100 pieces of music.\n"
+        "Move some of them to another folder and import again.");
   const std::string record = MusicRecord(target);
   if (record.empty()) return MusicLinkName(number);
   const auto [same, is_new] = music_links_.try_emplace(code_page_.Lower(record), number);

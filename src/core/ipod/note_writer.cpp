@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/document/markup.h"
+#include "core/ipod/folder_store.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
@@ -137,7 +138,9 @@ void PublishNotes(const Global& global, Platform& platform, const fs::path& fold
 
   for (int page = 1; page <= kLastPage; ++page) {
     if (global.Page(page).empty()) continue;
-    platform.WritePlainFile(folder / NoteName(page), NoteText(global, page, options));
+    const std::string note = NoteText(global, page, options);
+    RemoveLinkAt(folder / NoteName(page));
+    platform.WritePlainFile(folder / NoteName(page), note);
   }
 }
 

@@ -31,7 +31,8 @@ std::string NoteName(int page);
 std::string NoteText(const Global& global, int page, const PublishOptions& options);
 
 /// Writes one note file for each page that is not empty into the folder, which is made if need be. Files that
-/// no page rewrites stay. Throws FileError, and RunTimeError for an impossible music link.
+/// no page rewrites stay; a link in a note's place is replaced. Throws FileError, and RunTimeError for an
+/// impossible music link.
 void PublishNotes(const Global& global, Platform& platform, const std::filesystem::path& folder,
                   const PublishOptions& options);
 

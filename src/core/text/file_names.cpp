@@ -67,7 +67,8 @@ fs::path PathFromName(std::string_view name, const CodePage& code_page) {
 
 fs::path PathFromTypedName(std::string_view name, const Platform& platform) {
   fs::path path = PathFromName(name, platform.SystemCodePage());
-  if (platform.RefusesName(path)) {
+  // A name of nothing but NULs is none: the folder itself would be taken for the file.
+  if (path.empty() || platform.RefusesName(path)) {
     throw FileError(path, "could not be created", std::make_error_code(std::errc::invalid_argument));
   }
   return path;

@@ -33,11 +33,16 @@ OpenedFile OpenForReading(const fs::path& file) {
 }  // namespace
 
 std::string ReadWholeFile(const fs::path& file) {
+  std::error_code error;
+  const fs::file_status status = fs::status(file, error);
+  if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status)) {
+    // A pipe would wait for somebody to write to it, and a device may never end.
+    ThrowUnreadable(file, EOPNOTSUPP);
+  }
   errno = 0;
   const OpenedFile opened = OpenForReading(file);
   if (!opened) ThrowUnreadable(file, errno);
   // The size is only where to begin: the file may grow or shrink while it is read.
-  std::error_code error;
   const std::uintmax_t size = fs::file_size(file, error);
   if (error == std::errc::is_a_directory) ThrowUnreadable(file, EISDIR);
   std::string bytes(error ? 1 : static_cast<std::size_t>(size), '\0');

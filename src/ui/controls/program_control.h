@@ -16,6 +16,9 @@ class ProgramControl {
   /// Runs a handler. An error that it does not handle goes to Fail; none passes through the toolkit.
   void Run(const std::function<void()>& handler) noexcept;
 
+  /// The document was saved, or the user gave up what is not saved of it.
+  virtual void DocumentSettled() {}
+
   /// Ends the program with a run-time error.
   virtual void Fail(const std::exception& error) = 0;
 

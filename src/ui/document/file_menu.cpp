@@ -24,6 +24,7 @@ void FileMenu::FileNew_Click() {
 void FileMenu::FileOpen_Click() {
   if (!MayGoOn(messages::OpenErasesDocument())) return;
   app_.State.DocPath.clear();
+  app_.Control.DocumentSettled();
   editor_.ResetCaption();
   OpenDoc(app_, window_).exec();
   ShowResult();
@@ -58,6 +59,7 @@ void FileMenu::FileClose_Click() {
   editor_.HideControls();
   app_.State.DocPath.clear();
   ClearDocument(app_.State);
+  app_.Control.DocumentSettled();
   editor_.ResetCaption();
 }
 

@@ -23,6 +23,7 @@ void NewDoc::Form_Load() {
   ui_->List1->Fill(app_.State.ProgramFolder, ".dat", app_.CodePageInUse());
   app_.State.DocPath.clear();
   ClearDocument(app_.State);
+  app_.Control.DocumentSettled();
 }
 
 void NewDoc::Command1_Click() {

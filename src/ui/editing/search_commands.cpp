@@ -59,7 +59,10 @@ void SearchCommands::ShowMatch(int first_page) {
     app_.Messages.Show(window_, messages::NotFound());
     return;
   }
-  if (match->Page > kLastPage) throw RunTimeError("The text was found on page 1000, which cannot be shown.");
+  if (match->Page > kLastPage)
+    throw RunTimeError(PathText(DocumentFile(app_.State)) +
+                       "\nThe text was found on page 1000, which cannot be shown.\n"
+                       "Remove the line that is numbered 1000 in a text editor.");
   app_.State.CurrentPage = static_cast<std::int16_t>(match->Page);
   editor_.LoadPage(match->Page);
   body_.Select(match->Position, wanted.size());

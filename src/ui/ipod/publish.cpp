@@ -1,5 +1,7 @@
 #include "ui/ipod/publish.h"
 
+#include <string>
+
 #include "core/ipod/note_writer.h"
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
@@ -43,7 +45,8 @@ void Publish::Command1_Click() {
 }
 
 void Publish::Command2_Click() {
-  const std::string name = CleanName(ui_->Text1->Bytes());
+  std::string name = CleanName(ui_->Text1->Bytes());
+  std::erase(name, '\0');
   if (name.empty()) return;
   const PublishOptions options{.NotesMenuLink = ui_->Check1->isChecked(),
                                .BackgroundMusic = ui_->Check2->isChecked()};

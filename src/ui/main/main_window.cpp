@@ -119,6 +119,7 @@ void Main::LoadPage(int page) {
 void Main::SavePage() {
   UpdateGrid2();
   app_.State.Page(app_.State.CurrentPage) = BuildPage(StoredFields(), app_.CodePageInUse());
+  shown_record_ = app_.State.Page(app_.State.CurrentPage);
   UpdateGrid2();
   MoveFocusToBody();
 }
@@ -160,7 +161,12 @@ void Main::TellRecovered(const QString& notice) {
 }
 
 void Main::TellNotKept(const QString& reason) {
-  statusBar()->showMessage(tr("Nothing is kept for a crash: %1").arg(QString(reason).replace('\n', ' ')));
+  if (reason.isEmpty()) {
+    statusBar()->clearMessage();
+  } else {
+    statusBar()->showMessage(tr("If the program stops now, what is not saved is lost: %1")
+                                 .arg(QString(reason).replace('\n', ' ')));
+  }
 }
 
 void Main::ClearGrid1() {

@@ -55,7 +55,7 @@ class Main : public QMainWindow, public Editor {
 
   /// Says on the cover what was brought back at the start.
   void TellRecovered(const QString& notice);
-  /// Says in the status bar that a draft could not be kept.
+  /// Says in the status bar that the draft could not be kept, and no longer if the reason is empty.
   void TellNotKept(const QString& reason);
 
  public slots:
@@ -100,7 +100,7 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<HoverOutline> outline_;
   QTimer* timer1_;
-  std::string shown_record_;  ///< what the fields gave when the page was shown
+  std::string shown_record_;  ///< what the fields gave when the page was shown or stored
 };
 
 }  // namespace tavrel

@@ -20,8 +20,9 @@ std::string FirstLine() {
 
 /// Whether a file is this program's page for another version. A page of the user's own is not.
 bool IsOutdated(const std::filesystem::path& file) {
+  std::error_code error;
   QFile page(ToText(file));
-  if (!page.open(QIODevice::ReadOnly)) return false;
+  if (!std::filesystem::is_regular_file(file, error) || !page.open(QIODevice::ReadOnly)) return false;
   const std::string first_line = page.readLine().trimmed().toStdString();
   return first_line.starts_with("<!DOCTYPE html><!-- Tavrel Writer ") && first_line != FirstLine();
 }

@@ -26,11 +26,13 @@ fs::path RecoveryFileOf(const fs::path& folder, int place) {
 }
 
 /// The lock of a place if no running program holds it. Only the end of its program makes a lock stale, never
-/// its age.
+/// its age. If its file does not tell whose it is (damaged, of another computer, with a number that another
+/// program has by now), the system knows whether it is still held.
 std::unique_ptr<QLockFile> TryLock(const fs::path& folder, int place) {
   auto lock = std::make_unique<QLockFile>(ToText(FileOfPlace(folder, place, ".lock")));
   lock->setStaleLockTime(0);
-  return lock->tryLock() ? std::move(lock) : nullptr;
+  if (lock->tryLock() || (lock->removeStaleLockFile() && lock->tryLock())) return lock;
+  return nullptr;
 }
 
 bool Exists(const fs::path& file) {
@@ -41,6 +43,7 @@ bool Exists(const fs::path& file) {
 void Recover(const fs::path& recovery_file, Platform& platform, FoundAtStart& found) {
   try {
     Recovered recovered = RecoverDraft(recovery_file, platform);
+    if (!recovered.Trouble.empty()) found.Troubles.push_back(recovered.Trouble);
     if (!recovered.Document.empty() || !recovered.Damaged.empty())
       found.Documents.push_back(std::move(recovered));
   } catch (const std::exception& error) {
@@ -54,7 +57,7 @@ FoundAtStart ProgramPlace::Enter(const fs::path& folder, Platform& platform) {
   FoundAtStart found;
   // Two programs that start at once do so one after the other.
   QLockFile starting(ToText(folder / ".tavrel-start.lock"));
-  if (!starting.tryLock(kPatienceWithStart)) return found;
+  if (!starting.tryLock(kPatienceWithStart)) return {{}, {}, false};
   std::vector<int> taken;
   bool is_alone = true;
   for (int place = 1; place <= kPlaces; ++place) {
@@ -67,6 +70,7 @@ FoundAtStart ProgramPlace::Enter(const fs::path& folder, Platform& platform) {
   }
   if (is_alone) RemoveTemporaries(folder);
   TakePlace(folder, taken);
+  found.IsPlaceFree = lock_ != nullptr;
   return found;
 }
 

@@ -15,7 +15,8 @@ namespace tavrel {
 /// What a start found of programs that ended without a word.
 struct FoundAtStart {
   std::vector<Recovered> Documents;
-  std::vector<std::string> Troubles;  ///< recovery files that had to stay as they are, and why
+  std::vector<std::string> Troubles;  ///< recovery files that had to stay, and why
+  bool IsPlaceFree = true;            ///< whether this program can keep a draft of its own
 };
 
 /// The place of this program among those that run in the same folder: a number, held by a lock that is free

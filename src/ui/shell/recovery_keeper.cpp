@@ -3,11 +3,13 @@
 #include <QApplication>
 
 #include <exception>
+#include <new>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "core/document/document_file.h"
+#include "core/text/run_time_error.h"
 #include "ui/controls/program_control.h"
 
 namespace tavrel {
@@ -70,11 +72,20 @@ void RecoveryKeeper::WaitUntilKept() {
 
 void RecoveryKeeper::Look() {
   const bool is_command_at_work = QApplication::overrideCursor() != nullptr;
+  is_look_due_ = is_at_work_;
   if (recovery_file_.empty() || is_at_work_ || is_command_at_work) return;
   if (!app_.State.IsDocumentOpen() || !app_.State.IsDocumentShown) {
     Remove();
     return;
   }
+  try {
+    TakeDraft();
+  } catch (const std::bad_alloc&) {
+    TellKept("The computer's memory is full.");
+  }
+}
+
+void RecoveryKeeper::TakeDraft() {
   Draft draft = CurrentDraft();
   const std::size_t digest = Digest(draft);
   if (std::exchange(kept_digest_, digest) == digest) return;
@@ -95,7 +106,9 @@ void RecoveryKeeper::Keep(const Draft& draft) {
   std::string trouble;
   try {
     if (IsSaved(draft, recovery_file_.parent_path())) {
-      fs::remove(recovery_file_);
+      std::error_code error;
+      fs::remove(recovery_file_, error);
+      if (error) throw FileError(recovery_file_, "could not be removed", error);
     } else {
       KeepDraft(draft, recovery_file_, app_.System);
     }
@@ -109,9 +122,9 @@ void RecoveryKeeper::Keep(const Draft& draft) {
 void RecoveryKeeper::TellKept(const std::string& trouble) {
   is_at_work_ = false;
   const bool had_failed = std::exchange(has_failed_, !trouble.empty());
-  if (trouble.empty()) return;
-  kept_digest_ = 0;
-  if (!had_failed) emit Failed(QString::fromStdString(trouble));
+  if (has_failed_) kept_digest_ = 0;
+  if (has_failed_ || had_failed) emit Failed(QString::fromStdString(trouble));
+  if (is_look_due_ && timer_.isActive()) Look();
 }
 
 void RecoveryKeeper::Remove() {

@@ -15,7 +15,7 @@
 namespace tavrel {
 
 /// Keeps what differs from the open document's file in a recovery file, a few seconds behind the typing. The
-/// files are compared and written on a thread of their own, so that the window never waits for a disk.
+/// files are compared and written on a thread of their own, so that the window does not wait for them.
 class RecoveryKeeper : public QObject {
   Q_OBJECT
 
@@ -40,16 +40,17 @@ class RecoveryKeeper : public QObject {
 
  public slots:
   /// Sees to it that the recovery file is what it should be now. A document that a command is at work on
-  /// waits for the next look.
+  /// waits for the next look; while the files of one look are written, the next waits for their end.
   void Look();
 
  signals:
-  /// The recovery file could not be written, for the first time since it last could.
+  /// The recovery file could not be written, or, with an empty reason, can be again.
   void Failed(const QString& reason);
 
  private:
   Draft CurrentDraft() const;
   std::size_t Digest(const Draft& draft) const;
+  void TakeDraft();
   void Keep(const Draft& draft);
   void TellKept(const std::string& trouble);
   void Remove();
@@ -60,6 +61,7 @@ class RecoveryKeeper : public QObject {
   QTimer timer_;
   QThreadPool thread_;
   bool is_at_work_ = false;
+  bool is_look_due_ = false;
   bool has_failed_ = false;
   std::size_t kept_digest_ = 0;  ///< of what the last look saw; 0: of nothing
 };

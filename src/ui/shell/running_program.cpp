@@ -19,7 +19,8 @@ namespace {
 
 std::string WhatFailed(const std::exception& error) {
   if (dynamic_cast<const RunTimeError*>(&error) != nullptr) return error.what();
-  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr) return "The computer's memory is full.";
+  if (dynamic_cast<const std::bad_alloc*>(&error) != nullptr)
+    return "The computer's memory is full.\nClose other programs and start again.";
   return std::string("Something went wrong that should not: ") + error.what();
 }
 

@@ -18,6 +18,9 @@ class RunningProgram final : public ProgramControl {
   /// `store` brings what is typed but not yet stored into the document; Fail runs it first.
   void SetStoreTyped(std::function<void()> store) { store_typed_ = std::move(store); }
 
+  /// `look` is run when the document is settled.
+  void SetWhenSettled(std::function<void()> look) { when_settled_ = std::move(look); }
+
   /// `forget` is run when the document was brought to safety after an error.
   void SetAfterRescue(std::function<void()> forget) { after_rescue_ = std::move(forget); }
 
@@ -28,6 +31,10 @@ class RunningProgram final : public ProgramControl {
   /// failed and where the copy is, and ends the program with status 1. A further error while the message
   /// stands changes nothing.
   void Fail(const std::exception& error) override;
+
+  void DocumentSettled() override {
+    if (when_settled_) when_settled_();
+  }
 
   [[noreturn]] void End() override;
 
@@ -42,6 +49,7 @@ class RunningProgram final : public ProgramControl {
   Platform& platform_;
   MessageService& messages_;
   std::function<void()> store_typed_;
+  std::function<void()> when_settled_;
   std::function<void()> after_rescue_;
   std::function<void()> before_end_;
   bool failing_ = false;

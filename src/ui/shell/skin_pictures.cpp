@@ -1,6 +1,7 @@
 #include "ui/shell/skin_pictures.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 #include "ui/controls/picture_area.h"
 #include "ui/controls/text_conversion.h"
@@ -18,6 +19,8 @@ QString SkinFile(const Global& global, const char* name) {
 
 /// Nothing if the file cannot be read.
 QByteArray ReadSkin(const QString& file) {
+  // A pipe would wait for somebody to write into it.
+  if (!QFileInfo(file).isFile()) return {};
   QFile skin(file);
   return skin.open(QIODevice::ReadOnly) ? skin.readAll() : QByteArray();
 }

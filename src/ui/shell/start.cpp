@@ -64,6 +64,7 @@ int RunTavrelWriter(QApplication& application) {
                                               [&window] { return window->TypedPage(); });
     QObject::connect(keeper.get(), &RecoveryKeeper::Failed, window.get(), &Main::TellNotKept);
     program.SetStoreTyped([&window] { window->StoreTyped(); });
+    program.SetWhenSettled([&keeper] { keeper->Look(); });
     program.SetAfterRescue([&keeper] { keeper->Forget(); });
     QObject::connect(window.get(), &Main::Closed, &application, [] { QCoreApplication::exit(); });
     window->Form_Load();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/stat.h>
 
 #include "core/text/run_time_error.h"
 #include "support/fake_platform.h"
@@ -12,7 +13,6 @@ namespace tavrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-using Operation = FailingFiles::Operation;
 
 const std::string kPages = "\r\n 1 ,<title>A</title>\r\n 2 ,<title>B</title>\r\n";  // 46 bytes
 
@@ -158,6 +158,44 @@ TEST_F(RecoveryTest, AnUnreadableFileStaysWhereItIs) {
   EXPECT_THROW(Recover(), FileError);
   EXPECT_TRUE(fs::is_directory(File));
 }
+
+TEST_F(RecoveryTest, AFileThatCannotBeRemovedIsBroughtBackOnce) {
+  Keep("Guide.dat", kPages);
+  const std::string kept = Folder.Read("left.recovery");
+  Recover();
+  Folder.Write("left.recovery", kept);
+  EXPECT_EQ(Recover().Document.filename(), "Guide (recovered).dat");
+  EXPECT_EQ(Folder.Files().size(), 1U);
+}
+
+TEST_F(RecoveryTest, ADamagedFileOfALongNameIsPutAsideToo) {
+  Folder.Write("left.recovery", "recovery,9," + std::string(240, 'n') + ".dat\r\n\r\n 1 ,a");
+  const Recovered recovered = Recover();
+  EXPECT_EQ(recovered.Damaged.filename(), "Project (damaged).recovery");
+  EXPECT_TRUE(recovered.Trouble.empty());
+  EXPECT_FALSE(IsKept());
+}
+
+TEST_F(RecoveryTest, ANameOfSeveralLinesDoesNotSpoilTheDraft) {
+  Keep("a\r\nb.dat", kPages);
+  const Recovered recovered = Recover();
+  EXPECT_EQ(recovered.Document.filename(), "Project (recovered).dat");
+  EXPECT_TRUE(recovered.Damaged.empty());
+}
+
+TEST_F(RecoveryTest, AnEnormousFileIsNotRead) {
+  Folder.Write("left.recovery", "");
+  fs::resize_file(File, std::uintmax_t{1} << 40U);
+  EXPECT_THROW(Recover(), FileError);
+  EXPECT_TRUE(IsKept());
+}
+
+#ifndef _WIN32
+TEST_F(RecoveryTest, APipeIsNotWaitedFor) {
+  ASSERT_EQ(mkfifo(File.c_str(), 0666), 0);
+  EXPECT_THROW(Recover(), FileError);
+}
+#endif
 
 TEST_F(RecoveryTest, APlainNameIsTakenWhereTheDocumentsOwnIsRefused) {
   Keep(std::string(240, 'n') + ".dat", kPages);

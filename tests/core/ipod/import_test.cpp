@@ -51,6 +51,10 @@ class ImportTest : public testing::Test {
     Import(names);
   }
 
+  void ExpectAdvice(const std::string& advice, const std::vector<fs::path>& names) {
+    EXPECT_THAT([&] { Import(names); }, ThrowsMessage<RunTimeError>(HasSubstr(advice)));
+  }
+
   void ExpectErrorNaming(const std::string& name, const std::vector<fs::path>& names) {
     EXPECT_THAT([&] { Import(names); },
                 ThrowsMessage<RunTimeError>(HasSubstr(PathText(NotesFolder() / name))));
@@ -221,7 +225,8 @@ TEST_F(ImportTest, TakesNoMoreThanAThousandNotes) {
   std::vector<fs::path> names(1000, "a.txt");
   names.emplace_back("one too many.txt");
   ExpectErrorNaming("one too many.txt", names);
-  EXPECT_EQ(Progress.size(), 1000U);
+  ExpectAdvice("Move some of them to another folder and import again.", names);
+  EXPECT_EQ(Progress.size(), 2000U);  // of both attempts
 }
 
 TEST_F(ImportTest, LeavesThe1000thNoteOfAnEarlierImport) {
@@ -249,6 +254,8 @@ TEST_F(ImportTest, NamesANoteWithABrokenAnchor) {
   Write("c.txt", "<a href=\"a.txt");
   ExpectErrorNaming("b.txt", {"a.txt", "b.txt"});
   ExpectErrorNaming("c.txt", {"a.txt", "c.txt"});
+  for (const char* broken : {"b.txt", "c.txt"})
+    ExpectAdvice("Correct it in a text editor and import again.", {broken});
 }
 
 TEST_F(ImportTest, NamesTheNoteWithTheMusicLinkThatIsTooMany) {
@@ -259,6 +266,7 @@ TEST_F(ImportTest, NamesTheNoteWithTheMusicLinkThatIsTooMany) {
   Import({"a.txt"});
   EXPECT_EQ(State.MusicLink(100), "<song>100</song>");
   ExpectErrorNaming("b.txt", {"a.txt", "b.txt"});
+  ExpectAdvice("Move some of them to another folder and import again.", {"a.txt", "b.txt"});
 }
 
 TEST_F(ImportTest, LeavesTheDocumentsFileWhenItFails) {

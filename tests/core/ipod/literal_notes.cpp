@@ -95,15 +95,18 @@ std::string Note(const LiteralDocument& document, int page, const PublishOptions
   return note;
 }
 
-/// Without letter case in the code page; only its letters of two cases are named.
-std::string WithoutCase(const std::string& text) {
-  std::string result;
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    const bool is_capital = (c >= 'A' && c <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
-    result += is_capital ? static_cast<char>(byte + 0x20) : c;
-  }
-  return result;
+/// The small form of a character of Windows-1252.
+char Small(char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  const bool is_capital = (c >= 'A' && c <= 'Z') || (byte >= 0xC0 && byte <= 0xDE && byte != 0xD7);
+  if (is_capital) return static_cast<char>(byte + 0x20);
+  if (byte == 0x8A || byte == 0x8C || byte == 0x8E) return static_cast<char>(byte + 0x10);
+  return byte == 0x9F ? '\xFF' : c;
+}
+
+std::string WithoutCase(std::string text) {
+  for (char& c : text) c = Small(c);
+  return text;
 }
 
 /// Takes the title element out of the content.

@@ -1,6 +1,7 @@
 #include <QImage>
 
 #include <chrono>
+#include <sys/stat.h>
 
 #include "ui/shell/shell_test.h"
 
@@ -69,6 +70,15 @@ TEST_F(OddSkinsTest, AFolderOfASkinsNameDoesNoHarm) {
   EXPECT_EQ(Shown(Cover()), "empty");
   EXPECT_TRUE(Program.Failures.empty());
 }
+
+#ifndef _WIN32
+TEST_F(OddSkinsTest, APipeOfASkinsNameIsNotWaitedFor) {
+  ASSERT_EQ(mkfifo((Folder.Path() / "Skin1.jpg").c_str(), 0666), 0);
+  Start();
+  CustomiseWith(true);
+  EXPECT_EQ(Shown(Cover()), "empty");
+}
+#endif
 
 TEST_F(OddSkinsTest, AVeryWidePictureIsMadeSmaller) {
   WriteWide("Skin1.jpg", "JPEG", {20'000, 600}, Qt::red);

@@ -53,11 +53,13 @@ TEST_F(ProgramPlaceTest, TheDraftOfAProgramThatEndedIsBroughtBack) {
 }
 
 TEST_F(ProgramPlaceTest, DraftsOfSeveralProgramsAreBroughtBackAtOnce) {
-  for (const char* name : {".tavrel-1.recovery", ".tavrel-3.recovery", ".tavrel-99.recovery"})
-    Folder.Write(name, kDraft);
+  for (const std::string place : {"1", "3", "99"})
+    Folder.Write(".tavrel-" + place + ".recovery",
+                 "recovery," + std::to_string(10 + place.size()) + ",Guide.dat\r\n\r\n 1 ,<" + place + ">\r\n");
   EXPECT_EQ(Enter(First).Documents.size(), 3U);
-  for (const char* name : {"Guide (recovered).dat", "Guide 2 (recovered).dat", "Guide 3 (recovered).dat"})
-    EXPECT_EQ(Folder.Read(name), kPage) << name;
+  EXPECT_EQ(Folder.Read("Guide (recovered).dat"), "\r\n 1 ,<1>\r\n");
+  EXPECT_EQ(Folder.Read("Guide 2 (recovered).dat"), "\r\n 1 ,<3>\r\n");
+  EXPECT_EQ(Folder.Read("Guide 3 (recovered).dat"), "\r\n 1 ,<99>\r\n");
 }
 
 TEST_F(ProgramPlaceTest, NoClockCountsOnlyWhetherTheProgramStillRuns) {
@@ -74,7 +76,7 @@ TEST_F(ProgramPlaceTest, NoClockCountsOnlyWhetherTheProgramStillRuns) {
   EXPECT_EQ(Enter(Second).Documents.size(), 1U);
 }
 
-TEST_F(ProgramPlaceTest, AnUnreadableDraftIsToldAndItsPlaceLeftFree) {
+TEST_F(ProgramPlaceTest, AnUnreadableDraftIsToldAndItsPlaceLeftAlone) {
   fs::create_directory(Folder.Path() / ".tavrel-1.recovery");
   const FoundAtStart found = Enter(First);
   ASSERT_EQ(found.Troubles.size(), 1U);
@@ -82,6 +84,19 @@ TEST_F(ProgramPlaceTest, AnUnreadableDraftIsToldAndItsPlaceLeftFree) {
       << found.Troubles[0];
   EXPECT_EQ(First.RecoveryFile(), Folder.Path() / ".tavrel-2.recovery");
   EXPECT_TRUE(fs::is_directory(Folder.Path() / ".tavrel-1.recovery"));
+}
+
+TEST_F(ProgramPlaceTest, ALockThatNobodyHoldsKeepsNoDraftBack) {
+  for (const std::string& lock :
+       {std::string(), std::string("garbage"), std::string("1\nother\nanother-host\n"),
+        "999999999\ntavrel_writer\n" + QSysInfo::machineHostName().toStdString() + "\n"}) {
+    Folder.Write(".tavrel-1.recovery", kDraft);
+    Folder.Write(".tavrel-1.lock", lock);
+    EXPECT_EQ(Enter(First).Documents.size(), 1U) << lock;
+    EXPECT_EQ(First.RecoveryFile(), Folder.Path() / ".tavrel-1.recovery") << lock;
+    First.Leave();
+    fs::remove(Folder.Path() / "Guide (recovered).dat");
+  }
 }
 
 TEST_F(ProgramPlaceTest, WhatIsHalfWrittenIsClearedUnlessAnotherProgramRuns) {
@@ -105,6 +120,7 @@ TEST_F(ProgramPlaceTest, WithoutAFolderToWriteToThereIsNoPlace) {
   const FoundAtStart found = First.Enter(Folder.Path() / "gone", System);
   EXPECT_TRUE(found.Documents.empty());
   EXPECT_TRUE(First.RecoveryFile().empty());
+  EXPECT_FALSE(found.IsPlaceFree);
 }
 
 }  // namespace

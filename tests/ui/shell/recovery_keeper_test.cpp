@@ -180,18 +180,37 @@ TEST_F(RecoveryKeeperTest, ACommandAtWorkIsNotDisturbed) {
   EXPECT_EQ(Kept(), kTypedTrio);
 }
 
-TEST_F(RecoveryKeeperTest, AFailureIsToldOnceAndTriedAgain) {
+TEST_F(RecoveryKeeperTest, AFailureIsToldAsLongAsItLasts) {
   OpenDocument("Trio.dat", kTrio);
   TypeInto(Title(), "new");
   const QSignalSpy failed(&Keeper, &RecoveryKeeper::Failed);
-  System.Files.FailAt(Operation::Flush, 1, std::errc::no_space_on_device);
-  EXPECT_EQ(Kept(), "");
-  System.Files.FailAt(Operation::Flush, 1, std::errc::no_space_on_device);
-  EXPECT_EQ(Kept(), "");
-  EXPECT_EQ(failed.size(), 1);
-  EXPECT_TRUE(failed.at(0).at(0).toString().contains("No space left on device"));
+  for (int nth = 0; nth < 2; ++nth) {
+    System.Files.FailAt(Operation::Flush, 1, std::errc::no_space_on_device);
+    EXPECT_EQ(Kept(), "");
+    ASSERT_EQ(failed.size(), nth + 1);
+    EXPECT_TRUE(failed.at(nth).at(0).toString().contains("No space left on device"));
+  }
   EXPECT_EQ(Kept(), kTypedTrio);
-  EXPECT_EQ(failed.size(), 1);
+  ASSERT_EQ(failed.size(), 3);
+  EXPECT_EQ(failed.at(2).at(0).toString(), "");
+}
+
+TEST_F(RecoveryKeeperTest, APageThatIsTypedBackToWhatItWasBeforeSavingIsChanged) {
+  OpenDocument("Trio.dat", kTrio);
+  TypeInto(Title(), "new");
+  Save();
+  EXPECT_EQ(Kept(), "");
+  TypeInto(Title(), "A");
+  EXPECT_EQ(Kept(), DraftOf("Trio.dat", std::string(kTrio.substr(2))));
+}
+
+TEST_F(RecoveryKeeperTest, TheProgramIsToldWhenTheDocumentIsSettled) {
+  OpenDocument("Trio.dat", kTrio);
+  const int opened = Program.Settled;
+  Save();
+  EXPECT_EQ(Program.Settled, opened + 1);
+  Choose("FileClose");
+  EXPECT_EQ(Program.Settled, opened + 2);
 }
 
 TEST_F(RecoveryKeeperTest, ForgettingRemovesTheFileAndEndsTheKeeping) {

@@ -17,7 +17,7 @@ TEST_F(RecoveryNoticeTest, WithoutAnythingFoundTheCoverSaysNothing) {
 
 TEST_F(RecoveryNoticeTest, TheCoverNamesEveryDocumentThatWasBroughtBack) {
   Window().TellRecovered(
-      RecoveryNotice({{{"/p/Guide (recovered).dat", {}}, {"/p/Tea (recovered).dat", {}}}, {}}));
+      RecoveryNotice({{{"/p/Guide (recovered).dat", {}, {}}, {"/p/Tea (recovered).dat", {}, {}}}, {}}));
   const auto& notice = Find<QLabel>(Window(), "CoverRecovered");
   EXPECT_TRUE(notice.isVisible());
   EXPECT_EQ(notice.text(),
@@ -26,17 +26,35 @@ TEST_F(RecoveryNoticeTest, TheCoverNamesEveryDocumentThatWasBroughtBack) {
 }
 
 TEST_F(RecoveryNoticeTest, DamageAndTroublesAreTold) {
-  EXPECT_EQ(RecoveryNotice({{{{}, "/p/Guide (damaged).recovery"}}, {"/p/x\ncould not be read"}}),
-            "Not all of it could be read. The file is kept in the program's folder:\n"
+  EXPECT_EQ(RecoveryNotice({{{{}, "/p/Guide (damaged).recovery", {}}}, {"/p/x\ncould not be read"}}),
+            "What was kept is damaged. The program's folder holds it as it is:\n"
             "Guide (damaged).recovery\n\n"
-            "Something that was not saved last time could not be brought back:\n"
+            "Something was left from last time that could not be put in order:\n"
             "/p/x\ncould not be read");
 }
 
-TEST_F(RecoveryNoticeTest, TheStatusBarSaysThatNothingCanBeKept) {
+TEST_F(RecoveryNoticeTest, TheCoverSaysIfNothingCanBeKept) {
+  EXPECT_EQ(RecoveryNotice({{}, {}, false}),
+            "What you type is kept only when you save: the program's folder cannot be written to.");
+}
+
+TEST_F(RecoveryNoticeTest, ManyOrLongNamesDoNotBlowUpTheWindow) {
+  FoundAtStart found;
+  for (int i = 0; i < 60; ++i) found.Documents.push_back({std::string(200, 'n') + ".dat", {}, {}});
+  const QSize before = Window().size();
+  Window().TellRecovered(RecoveryNotice(found));
+  Settle();
+  EXPECT_EQ(Window().size(), before);
+  EXPECT_TRUE(Find<QLabel>(Window(), "CoverRecovered").text().endsWith("\nand 52 more"));
+}
+
+TEST_F(RecoveryNoticeTest, TheStatusBarSaysWhileNothingCanBeKept) {
   OpenDocument("Guide.dat", kGuide);
   Window().TellNotKept("/p/x\ncould not be written");
-  EXPECT_EQ(Window().statusBar()->currentMessage(), "Nothing is kept for a crash: /p/x could not be written");
+  EXPECT_EQ(Window().statusBar()->currentMessage(),
+            "If the program stops now, what is not saved is lost: /p/x could not be written");
+  Window().TellNotKept({});
+  EXPECT_EQ(Window().statusBar()->currentMessage(), "");
 }
 
 }  // namespace
