@@ -54,8 +54,8 @@ TEST_F(ProgramPlaceTest, TheDraftOfAProgramThatEndedIsBroughtBack) {
 
 TEST_F(ProgramPlaceTest, DraftsOfSeveralProgramsAreBroughtBackAtOnce) {
   for (const std::string place : {"1", "3", "99"})
-    Folder.Write(".tavrel-" + place + ".recovery",
-                 "recovery," + std::to_string(10 + place.size()) + ",Guide.dat\r\n\r\n 1 ,<" + place + ">\r\n");
+    Folder.Write(".tavrel-" + place + ".recovery", "recovery," + std::to_string(10 + place.size()) +
+                                                       ",Guide.dat\r\n\r\n 1 ,<" + place + ">\r\n");
   EXPECT_EQ(Enter(First).Documents.size(), 3U);
   EXPECT_EQ(Folder.Read("Guide (recovered).dat"), "\r\n 1 ,<1>\r\n");
   EXPECT_EQ(Folder.Read("Guide 2 (recovered).dat"), "\r\n 1 ,<3>\r\n");
