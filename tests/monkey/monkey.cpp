@@ -1,0 +1,191 @@
+#include "monkey/monkey.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QTextBlock>
+
+#include <cstdio>
+#include <utility>
+
+namespace tavrel::test {
+namespace {
+
+constexpr std::size_t kHistory = 30;
+constexpr std::size_t kMostBytes = 1'500'000;
+
+QString WholeText(const BodyField& body) {
+  QString text;
+  for (QTextBlock block = body.document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockNumber() > 0) text += '\n';
+    text += block.text();
+  }
+  return text;
+}
+
+}  // namespace
+
+Monkey::Monkey(unsigned seed, bool hostile)
+    : dice_(seed),
+      seed_(seed),
+      hostile_(hostile),
+      stage_(std::make_unique<Stage>(dice_)),
+      player_(dice_, stage_->Seen) {
+  TellHowItCame = [this] { TellHistory(); };
+  Restart();
+}
+
+Monkey::~Monkey() {
+  TellHowItCame = nullptr;
+  screen_.reset();
+  stage_->Stop(Ending::Exit);
+}
+
+void Monkey::TellHistory() const {
+  std::printf("seed %u, action %d; the last actions:\n", seed_, counts_.Actions);
+  for (const std::string& act : history_) std::printf("  %s\n", act.c_str());
+  for (const Event& event : stage_->Seen.Events) {
+    std::printf("    event %d %s.%s = %d\n", static_cast<int>(event.What), event.Window.c_str(),
+                event.Control.c_str(), event.Number);
+  }
+}
+
+void Monkey::Note(const std::string& act) {
+  for (const char c : act) trail_ = (trail_ ^ static_cast<unsigned char>(c)) * 16777619U;
+  Remember(act);
+}
+
+void Monkey::Remember(const std::string& note) {
+  history_.push_back(std::to_string(counts_.Actions) + " " + note);
+  if (history_.size() > kHistory) history_.pop_front();
+}
+
+void Monkey::Restart(Ending ending) {
+  screen_.reset();
+  stage_->Stop(ending);
+  stage_->Start();
+  stage_->Window().resize(900, 600);
+  player_.Watch(stage_->Window());
+  screen_ = std::make_unique<Screen>(stage_->Window());
+  model_ = std::make_unique<Model>(stage_->ProgramFolder);
+  stage_->Seen.Clear();
+  ++counts_.Starts;
+}
+
+void Monkey::Act() {
+  ++counts_.Actions;
+  BeginAct();
+  std::size_t bytes = 0;
+  for (const std::string& page : stage_->State().Pages) bytes += page.size();
+  if (bytes > kMostBytes) {
+    Note("start anew: the document is large");
+    Restart();
+    return;
+  }
+  if (dice_.OneIn(250)) {
+    Kill();
+    return;
+  }
+  QWidget* planner = OpenPlanner();
+  if (planner != nullptr && dice_.OneIn(4)) {
+    ActInPlanner();
+  } else {
+    Activate(stage_->Window());
+    if (hostile_ && dice_.OneIn(25)) ActOnComputer();
+    if (model_->IsShown) {
+      ActInEditor();
+    } else {
+      ActOnCover();
+    }
+  }
+  EndAct();
+}
+
+void Monkey::BeginAct() {
+  // Painting takes more time than all the rest.
+  stage_->Window().setUpdatesEnabled(counts_.Actions % 8 == 0);
+  stage_->Seen.Clear();
+  by_ = By::Other;
+  moves_focus_ = false;
+  enter_ = false;
+  popups_ = player_.Popups;
+  faulty_ = false;
+  focus_ = screen_->Focus();
+  model_->Focus = focus_;
+  model_->LinkRow = screen_->Links.Row();
+  body_ = WholeText(screen_->Body);
+  selection_start_ = screen_->Body.textCursor().selectionStart();
+  selection_end_ = screen_->Body.textCursor().selectionEnd();
+  clipboard_ = QApplication::clipboard()->text();
+}
+
+void Monkey::EndAct() {
+  RunEvents();
+  RunEvents();
+  for (int left = 5; left > 0 && QApplication::activePopupWidget() != nullptr; --left) {
+    QApplication::activePopupWidget()->close();
+    RunEvents();
+  }
+  stage_->System.Files.FailAt(FailingFiles::Operation::None, 0, std::errc::io_error);
+  if (stage_->Seen.IsOver) {
+    CheckEnd();
+    Restart();
+    return;
+  }
+  Follow();
+  Check();
+}
+
+void Monkey::Follow() {
+  const Record& seen = stage_->Seen;
+  const Event* command = seen.First(Event::Kind::Command);
+  const Event* click = nullptr;
+  for (const Event& event : seen.Events) {
+    if (event.What == Event::Kind::GridClick && event.Window == "Main") click = &event;
+  }
+  if (command != nullptr || click != nullptr) {
+    if (moves_focus_) {
+      model_->LeaveField(focus_);
+      model_->Focus = "";
+    }
+    if (click != nullptr) {
+      if (click->Control == "MSFlexGrid2") model_->ClickPage(click->Number);
+      if (click->Control == "MSFlexGrid1") model_->ClickLink(click->Number);
+    } else if (!model_->Run(command->Control, seen)) {
+      FollowText(command->Control);
+    }
+    if (!model_->IsShown) model_->ObserveCovered(*screen_);
+    ++counts_.Commands;
+    const Event* closed = seen.Last(Event::Kind::Closed, "Publish");
+    if (closed != nullptr && seen.MessageOf("Finished...    ") != nullptr) CheckPublished(*closed);
+  } else if (by_ == By::Keys) {
+    ++counts_.Keys;
+    model_->Observe(focus_, *screen_);
+    if (enter_) model_->PressEnter(focus_);
+    if (screen_->Focus() != focus_) model_->LeaveField(focus_);
+  }
+  if (player_.Popups > popups_) model_->LeaveIfLeft(focus_, *screen_);
+  FollowPlanner();
+  if (model_->NeedsResynchronising) {
+    ++counts_.Resynchronised;
+    model_->Resynchronise(stage_->State(), *screen_);
+    model_->NeedsResynchronising = false;
+  }
+  model_->Focus = screen_->Focus();
+}
+
+void Monkey::FollowPlanner() {
+  const Event* pressed = stage_->Seen.Last(Event::Kind::Pressed, "Planner");
+  if (pressed == nullptr || pressed->Control != "Command1") return;
+  model_->InsertPlan(stage_->Seen);
+  ++counts_.Commands;
+}
+
+QWidget* Monkey::OpenPlanner() const {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == "Planner" && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
+}  // namespace tavrel::test
