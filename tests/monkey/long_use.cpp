@@ -30,6 +30,7 @@ constexpr long kMemoryTolerance = 512;  // KiB
 
 struct Cost {
   long Memory = 0;  ///< KiB
+  long Heap = 0;    ///< KiB that are in use of what was allocated
   long Handles = 0;
   long Windows = 0;
   long Objects = 0;
@@ -44,6 +45,11 @@ long ResidentMemory() {
   long resident = 0;
   std::ifstream("/proc/self/statm") >> size >> resident;
   return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+long HeapInUse() {
+  const struct mallinfo2 info = mallinfo2();
+  return static_cast<long>((info.uordblks + info.hblkhd) / 1024);
 }
 
 long EntriesIn(const fs::path& folder) {
@@ -74,7 +80,8 @@ Cost Measure(Monkey& monkey) {
   long objects = 0;
   const QWidgetList windows = QApplication::topLevelWidgets();
   for (const QWidget* window : windows) objects += 1 + window->findChildren<QObject*>().size();
-  return {ResidentMemory(), EntriesIn("/proc/self/fd"), windows.size(), objects, TemporaryFiles(stage)};
+  return {ResidentMemory(), HeapInUse(), EntriesIn("/proc/self/fd"),
+          windows.size(),   objects,     TemporaryFiles(stage)};
 }
 
 bool Grows(const char* what, const std::vector<Cost>& costs, long Cost::*number, long tolerance) {
@@ -95,7 +102,7 @@ int UseForLong(int actions) {
   const fs::path temporary = monkey.Theatre().Sandbox.Path() / "tmp";
   fs::create_directory(temporary);
   setenv("TMPDIR", temporary.c_str(), 1);
-  std::printf("  actions  memory/KiB  handles  windows  objects  temporary files\n");
+  std::printf("  actions  memory/KiB  heap/KiB  handles  windows  objects  temporary files\n");
   std::vector<Cost> costs;
   for (int part = 1; part <= kMeasurements; ++part) {
     while (monkey.Done().Actions < actions * part / kMeasurements) {
@@ -104,8 +111,8 @@ int UseForLong(int actions) {
     }
     const Cost cost = Measure(monkey);
     costs.push_back(cost);
-    std::printf("%9d %11ld %8ld %8ld %8ld %16ld\n", monkey.Done().Actions, cost.Memory, cost.Handles,
-                cost.Windows, cost.Objects, cost.TemporaryFiles);
+    std::printf("%9d %11ld %9ld %8ld %8ld %8ld %16ld\n", monkey.Done().Actions, cost.Memory, cost.Heap,
+                cost.Handles, cost.Windows, cost.Objects, cost.TemporaryFiles);
     std::fflush(stdout);
   }
   std::printf("dialogs %d, messages %d, commands %d, starts %d\n", monkey.Dialogs(), monkey.Messages(),

@@ -179,7 +179,7 @@ TEST_P(PublishSweep, GoesOnAfterAShortWriteAndLeavesNoHalfNoteWhenNothingIsTaken
   }
 }
 
-TEST_P(PublishSweep, SaysSoWhenAHalfNoteCannotBeRemoved) {
+TEST_P(PublishSweep, NamesTheNoteWhenItsHalfCannotBeRemovedEither) {
   for (const std::error_code& error : ErrorsOf(Operation::Remove)) {
     const std::string message = Write([&](FailingFiles& files) {
       files.FailAt(Operation::Write, 5, std::errc::no_space_on_device);

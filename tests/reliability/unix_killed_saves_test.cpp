@@ -4,6 +4,7 @@
 // TAVREL_KILLS: how often a process that saves a document is killed (60 times if not given; others a fifth of
 // it). TAVREL_SEED: where the random moments start, as an earlier run has printed it.
 
+#include <algorithm>
 #include <cstdlib>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -110,7 +111,7 @@ class KilledSaves : public testing::TestWithParam<KilledSave> {
 };
 
 TEST_P(KilledSaves, LeaveTheOldVersionOrTheNewOneWhole) {
-  const unsigned long kills = Given("TAVREL_KILLS", 60) / GetParam().Share;
+  const unsigned long kills = std::max(1UL, Given("TAVREL_KILLS", 60) / GetParam().Share);
   SCOPED_TRACE("seed " + std::to_string(Seed));
   GetParam().Save(0, Folder.Path(), *System);
   int version = 0;

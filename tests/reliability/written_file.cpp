@@ -5,6 +5,7 @@
 
 #include "core/document/backups.h"
 #include "core/document/document_file.h"
+#include "core/document/recovery.h"
 #include "core/planner/plan_file.h"
 #include "core/shell/settings.h"
 #include "core/text/run_time_error.h"
@@ -102,11 +103,23 @@ WrittenFile RestoredDocument() {
           }};
 }
 
+WrittenFile DraftOfDocument() {
+  const std::string heading = "recovery," + std::to_string(kTrio.size()) + ",Guide.dat\r\n";
+  return {.Title = "Draft",
+          .Name = ".tavrel-1.recovery",
+          .Old = "recovery,2,Guide.dat\r\n\r\n",
+          .New = heading + std::string(kTrio),
+          .Others = {{"Guide.dat", std::string(kGuide)}},
+          .Save = [](const fs::path& folder, Platform& platform) {
+            KeepDraft({"Guide.dat", std::string(kTrio)}, folder / ".tavrel-1.recovery", platform);
+          }};
+}
+
 }  // namespace
 
 const std::vector<WrittenFile>& WrittenFiles() {
-  static const std::vector<WrittenFile> files = {Document(), PlanOfPages(), SettingsFile(), Backup(),
-                                                 RestoredDocument()};
+  static const std::vector<WrittenFile> files = {Document(), PlanOfPages(),      SettingsFile(),
+                                                 Backup(),   RestoredDocument(), DraftOfDocument()};
   return files;
 }
 

@@ -110,7 +110,9 @@ void RemoveLinkAt(const fs::path& file) {
   if (error) throw FileError(file, "could not be written", error);
 }
 
-bool DeleteFolder(const fs::path& folder, const Platform& platform) {
+bool DeleteFolder(const fs::path& path, const Platform& platform) {
+  // With a separator at its end a link's path is the folder that it leads to.
+  const fs::path folder = path.has_filename() ? path : path.parent_path();
   std::error_code error;
   if (!fs::is_symlink(folder, error)) {
     if (!fs::is_directory(folder, error)) return false;

@@ -13,8 +13,9 @@ namespace tavrel {
 std::vector<std::filesystem::path> Subfolders(const std::filesystem::path& folder, const Platform& platform);
 
 /// Copies the ordinary files of a folder, not the hidden ones, into another, which is made if it is missing.
-/// Files and links of the same name are replaced, others stay. What was copied is on the disk when it
-/// returns. Tells `progress` after each file how many of how many are done. Throws FileError.
+/// Files and links of the same name are replaced, but for links that lead back to what would be copied;
+/// others stay. What was copied is on the disk when it returns. Tells `progress` after each file how many of
+/// how many are done. Throws FileError.
 void CopyFolder(const std::filesystem::path& from, const std::filesystem::path& to, Platform& platform,
                 const std::function<void(int done, int all)>& progress);
 

@@ -62,7 +62,7 @@ void SearchCommands::ShowMatch(int first_page) {
   if (match->Page > kLastPage)
     throw RunTimeError(PathText(DocumentFile(app_.State)) +
                        "\nThe text was found on page 1000, which cannot be shown.\n"
-                       "Remove the line that is numbered 1000 in a text editor.");
+                       "Save the project and open it again.");
   app_.State.CurrentPage = static_cast<std::int16_t>(match->Page);
   editor_.LoadPage(match->Page);
   body_.Select(match->Position, wanted.size());

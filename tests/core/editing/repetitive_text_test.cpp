@@ -85,9 +85,8 @@ TEST(RepetitiveText, IsReplacedOnAllPages) {
   EXPECT_EQ(global->Page(kPages), WithText("b" + half));
 }
 
-TEST(RepetitiveText, IsReplacedWithinReplacements) {
-  // Each replacement makes the text longer by as much as stands in front of its "b"; in what it leaves
-  // behind, nearly the searched text begins at every place.
+TEST(RepetitiveText, IsSearchedWhereItWasPutIn) {
+  // In what is put in, nearly the searched text begins at every place.
   const std::string as = Repeated(8'000, "a");
   const auto global = DocumentWithTexts(as + "b");
   ReplaceInPages(*global, as + "b", as + as + as, true, Letters());

@@ -144,6 +144,14 @@ TEST_F(CopiesStayInsideTest, ADeletedProjectTakesNothingOutsideItWithIt) {
   EXPECT_FALSE(Folder.Has("local/Guide"));
 }
 
+TEST_F(CopiesStayInsideTest, ALinkWhosePathEndsInASeparatorIsAllThatIsDeleted) {
+  fs::create_directory_symlink("../elsewhere", Copied());
+  const TreeSnapshot before(Folder.Path());
+  EXPECT_TRUE(DeleteFolder(Copied() / "", System));
+  EXPECT_EQ(before.Changes().size(), 1U);
+  EXPECT_FALSE(fs::is_symlink(Copied()));
+}
+
 TEST_F(CopiesStayInsideTest, NamesOfEveryKindAreCopiedUnderTheSameName) {
   const std::string names[] = {
       "..a",       "...",  "a\\..\\b", "con", "NUL.txt", "-rf", "~",
