@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QStandardPaths>
+#include <QTimer>
 
 #include <memory>
 
@@ -25,16 +26,31 @@
 namespace tavrel {
 namespace {
 
-/// Gives what earlier programs left unsaved.
-FoundAtStart OpenProgramFolder(Global& global, Platform& platform, ProgramPlace& place) {
+void OpenProgramFolder(Global& global, Platform& platform) {
   global.ProgramFolder =
       FindProgramFolder(ToPath(QCoreApplication::applicationDirPath()),
                         ToPath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)));
   EnterProgramFolder(global.ProgramFolder, platform);
-  FoundAtStart found = place.Enter(global.ProgramFolder, platform);
   if (IsFirstStart(global.ProgramFolder)) InstallFirstFiles(global.ProgramFolder, platform);
   InstallHelpPage(global.ProgramFolder, platform);
-  return found;
+}
+
+/// What keeps drafts while the program runs.
+struct Keeping {
+  ProgramPlace Place;
+  std::unique_ptr<RecoveryKeeper> Keeper;
+};
+
+/// Brings back what earlier programs left unsaved, and keeps drafts from now on.
+void StartKeeping(Keeping& keeping, App& app, RunningProgram& program, Main& window) {
+  window.TellRecovered(RecoveryNotice(keeping.Place.Enter(app.State.ProgramFolder, app.System)));
+  keeping.Keeper = std::make_unique<RecoveryKeeper>(app, keeping.Place.RecoveryFile(),
+                                                    [&window] { return window.TypedPage(); });
+  RecoveryKeeper* keeper = keeping.Keeper.get();
+  QObject::connect(keeper, &RecoveryKeeper::Failed, &window, &Main::TellNotKept);
+  program.SetWhenSettled([keeper] { keeper->Look(); });
+  program.SetAfterRescue([keeper] { keeper->Forget(); });
+  keeper->Start();
 }
 
 }  // namespace
@@ -53,34 +69,29 @@ int RunTavrelWriter(QApplication& application) {
   QSettings memory(QSettings::IniFormat, QSettings::UserScope, kProgramName, "windows");
   // The window outlives what runs in it: whatever fails, its fields can still be rescued.
   std::unique_ptr<Main> window;
-  ProgramPlace place;
-  std::unique_ptr<RecoveryKeeper> keeper;
+  Keeping keeping;
   int status = 0;
   program.Run([&] {
-    const FoundAtStart found = OpenProgramFolder(global, *platform, place);
+    OpenProgramFolder(global, *platform);
     window = std::make_unique<Main>(app);
-    window->TellRecovered(RecoveryNotice(found));
-    keeper = std::make_unique<RecoveryKeeper>(app, place.RecoveryFile(),
-                                              [&window] { return window->TypedPage(); });
-    QObject::connect(keeper.get(), &RecoveryKeeper::Failed, window.get(), &Main::TellNotKept);
     program.SetStoreTyped([&window] { window->StoreTyped(); });
-    program.SetWhenSettled([&keeper] { keeper->Look(); });
-    program.SetAfterRescue([&keeper] { keeper->Forget(); });
     QObject::connect(window.get(), &Main::Closed, &application, [] { QCoreApplication::exit(); });
     window->Form_Load();
     RestoreWindow(*window, memory);
     program.SetBeforeEnd([&] {
       RememberWindow(*window, memory);
-      keeper->Forget();
-      place.Leave();
+      if (keeping.Keeper) keeping.Keeper->Forget();
+      keeping.Place.Leave();
     });
     window->show();
-    keeper->Start();
+    // Locks are flushed to the disk, which the window need not wait for.
+    QTimer::singleShot(0, window.get(),
+                       [&] { program.Run([&] { StartKeeping(keeping, app, program, *window); }); });
     status = QApplication::exec();
     RememberWindow(*window, memory);
     // The close box asks nothing, nor does the end of the computer's session: what was not saved waits for
     // the next start.
-    keeper->KeepLast();
+    if (keeping.Keeper) keeping.Keeper->KeepLast();
   });
   return status;
 }
