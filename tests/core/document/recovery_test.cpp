@@ -185,7 +185,7 @@ TEST_F(RecoveryTest, ANameOfSeveralLinesDoesNotSpoilTheDraft) {
 
 TEST_F(RecoveryTest, AnEnormousFileIsNotRead) {
   Folder.Write("left.recovery", "");
-  fs::resize_file(File, std::uintmax_t{1} << 40U);
+  fs::resize_file(File, (256U << 20U) + 1);
   EXPECT_THROW(Recover(), FileError);
   EXPECT_TRUE(IsKept());
 }
