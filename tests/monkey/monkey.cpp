@@ -8,6 +8,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "support/user.h"
+
 namespace tavrel::test {
 namespace {
 
@@ -29,7 +31,7 @@ Monkey::Monkey(unsigned seed, bool hostile)
     : dice_(seed),
       seed_(seed),
       hostile_(hostile),
-      stage_(std::make_unique<Stage>(dice_)),
+      stage_(std::make_unique<Stage>(dice_, hostile)),
       player_(dice_, stage_->Seen) {
   TellHowItCame = [this] { TellHistory(); };
   Restart();
@@ -42,7 +44,8 @@ Monkey::~Monkey() {
 }
 
 void Monkey::TellHistory() const {
-  std::printf("seed %u, action %d; the last actions:\n", seed_, counts_.Actions);
+  std::printf("seed %u, action %d, files in %s; the last actions:\n", seed_, counts_.Actions,
+              stage_->Sandbox.Path().c_str());
   for (const std::string& act : history_) std::printf("  %s\n", act.c_str());
   for (const Event& event : stage_->Seen.Events) {
     std::printf("    event %d %s.%s = %d\n", static_cast<int>(event.What), event.Window.c_str(),
@@ -82,7 +85,7 @@ void Monkey::Act() {
     Restart();
     return;
   }
-  if (dice_.OneIn(250)) {
+  if (hostile_ && dice_.OneIn(250)) {
     Kill();
     return;
   }
@@ -99,6 +102,17 @@ void Monkey::Act() {
     }
   }
   EndAct();
+}
+
+void Monkey::CloseDocument() {
+  for (int left = 100; left > 0 && model_->IsShown; --left) {
+    BeginAct();
+    Activate(stage_->Window());
+    by_ = By::Menu;
+    Note("close the document");
+    Find<QAction>(stage_->Window(), "FileClose").trigger();
+    EndAct();
+  }
 }
 
 void Monkey::BeginAct() {

@@ -33,12 +33,16 @@ struct Counts {
 /// A person who does anything at all with the program, and the rules by which the outcome is judged.
 class Monkey {
  public:
-  /// With `hostile`, files and disks fail and are damaged between the actions.
+  /// With `hostile`, files and disks fail and are damaged between the actions, and the program ends or is
+  /// killed now and then.
   Monkey(unsigned seed, bool hostile);
   ~Monkey();
 
   /// One action and what has to hold after it.
   void Act();
+
+  /// Closes the open document.
+  void CloseDocument();
 
   /// How it came to what has just happened.
   void TellHistory() const;

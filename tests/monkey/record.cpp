@@ -5,6 +5,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 
 #include "ui/controls/body_field.h"
 #include "ui/controls/dated_file_list.h"
@@ -83,6 +85,11 @@ const Event* Record::MessageOf(const std::string& beginning) const {
 bool Record::IsRefused(const std::string& beginning) const {
   const Event* message = MessageOf(beginning);
   return message != nullptr && message->Number == 0;
+}
+
+std::string BytesOf(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 std::map<std::string, std::string> ValuesIn(const QWidget& window) {

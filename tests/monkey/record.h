@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <filesystem>
 #include <functional>
 #include <map>
 #include <string>
@@ -48,6 +49,9 @@ struct Record {
   /// Whether a question was asked and answered with Cancel.
   bool IsRefused(const std::string& beginning) const;
 };
+
+/// A file's bytes; none if there is no such file.
+std::string BytesOf(const std::filesystem::path& file);
 
 /// What the controls of a window hold, by their names.
 std::map<std::string, std::string> ValuesIn(const QWidget& window);

@@ -44,7 +44,7 @@ void MonkeyProgram::End() {
   record_.IsOver = true;
 }
 
-Stage::Stage(Dice& dice)
+Stage::Stage(Dice& dice, bool hostile)
     : ProgramFolder(Sandbox.Path() / "program"),
       Messages(dice, Seen, Sandbox.Path().string()),
       Program(Seen) {
@@ -52,10 +52,10 @@ Stage::Stage(Dice& dice)
     System.NotReadable.insert(above);
     if (above == above.parent_path()) break;
   }
-  FillDisks();
+  FillDisks(hostile);
 }
 
-void Stage::FillDisks() {
+void Stage::FillDisks(bool hostile) {
   const auto write = [this](const fs::path& name, std::string_view bytes) { Sandbox.Write(name, bytes); };
   write("program/Guide.dat", kGuide);
   write("program/Songs.dat", kSongs);
@@ -64,8 +64,8 @@ void Stage::FillDisks() {
         "<title>-Trip</title>\r\n<meta name=\"LineWrap\" content=\"false\">\r\nGo <a "
         "href=\"z002.txt\">on</a>\r\n");
   write("pod/Notes/Trip/z002.txt", "Two<br>lines<p><a href=\"ipod:music?song=Blue&artist=Kim\">hear</a>\r\n");
-  write("pod/Notes/Odd/a.txt", "<a href=\"song=X\"><a href=\"\\\"></a></a> <title>t</title>");
-  write("pod/Notes/Bad/a.txt", "<a href=\"never closed");
+  if (hostile) write("pod/Notes/Odd/a.txt", "<a href=\"song=X\"><a href=\"\\\"></a></a> <title>t</title>");
+  if (hostile) write("pod/Notes/Bad/a.txt", "<a href=\"never closed");
   write("pod/Notes/Empty/readme.md", "");
   write("stick/Other/one.TXT", "zero\0byte\rand\nends"s);
   write("stick/Other/sub/two.txt", "2");

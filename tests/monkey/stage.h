@@ -67,7 +67,8 @@ enum class Ending { Exit, Killed };
 /// in a sandbox that no folder list leaves.
 class Stage {
  public:
-  explicit Stage(Dice& dice);
+  /// With `hostile`, some of the notes on its disks are none.
+  Stage(Dice& dice, bool hostile);
 
   /// Starts the program.
   void Start();
@@ -86,7 +87,7 @@ class Stage {
   std::unique_ptr<Session> Run;
 
  private:
-  void FillDisks();
+  void FillDisks(bool hostile);
 };
 
 /// Lets pending events run.

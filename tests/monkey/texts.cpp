@@ -1,5 +1,6 @@
 #include "monkey/texts.h"
 
+#include <algorithm>
 #include <array>
 #include <map>
 #include <vector>
@@ -94,12 +95,25 @@ bool IsBreak(char32_t character) {
   return character == '\r' || character == '\n' || character == 0x2028 || character == 0x2029;
 }
 
+bool plainly = false;
+
+/// A piece of text to type or paste.
+const QString& AnyPiece(Dice& dice) {
+  const QString& piece = dice.AnyOf(kPieces);
+  const bool is_latin = std::all_of(piece.begin(), piece.end(), [](QChar c) { return c.unicode() < 0x180; });
+  return plainly && !is_latin ? kPieces.front() : piece;
+}
+
 }  // namespace
+
+void TypePlainly() {
+  plainly = true;
+}
 
 QString AnyTyped(Dice& dice) {
   QString text;
   for (int left = dice.Between(0, 4); left > 0; --left) {
-    const QString& piece = dice.AnyOf(kPieces);
+    const QString& piece = AnyPiece(dice);
     if (piece != "\t") text += piece;
   }
   return text;
@@ -111,8 +125,8 @@ QString AnyPasted(Dice& dice) {
       "\x7f", "\x1b", "\u240D", "\uFEFF"};
   QString text;
   for (int left = dice.Between(0, 6); left > 0; --left)
-    text += dice.OneIn(4) ? dice.AnyOf(odd) : dice.AnyOf(kPieces);
-  if (dice.OneIn(12)) text += dice.AnyOf(kPieces).repeated(dice.Between(1, 1500));
+    text += dice.OneIn(4) && !plainly ? dice.AnyOf(odd) : AnyPiece(dice);
+  if (dice.OneIn(12)) text += AnyPiece(dice).repeated(dice.Between(1, 1500));
   return text;
 }
 
@@ -121,7 +135,7 @@ QString AnyName(Dice& dice) {
   static const std::vector<QString> odd = {
       "",       "   ", "..", "../../up", "C:\\x",   "a/b",  "&&&", "CON", "nul", QString(300, 'x'),
       "\u65e5", "-rf", "~",  "%s%n",     ".hidden", "a b  "};
-  return dice.OneIn(5) ? dice.AnyOf(odd) : dice.AnyOf(names);
+  return !plainly && dice.OneIn(5) ? dice.AnyOf(odd) : dice.AnyOf(names);
 }
 
 QString AnyNumber(Dice& dice) {
@@ -137,6 +151,7 @@ QString AnyTarget(Dice& dice) {
   static const std::vector<QString> odd = {"",         "M1",         "m2",   "M100",  "M007",
                                            "M",        "abc",        "1000", "32766", "65535",
                                            "<linkto>", "5<linkto>6", "-3",   "x5",    "</linkto>"};
+  if (plainly) return QString::number(dice.Between(1, 20));
   return dice.OneIn(4) ? dice.AnyOf(odd) : AnyNumber(dice);
 }
 

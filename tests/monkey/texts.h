@@ -8,6 +8,10 @@
 
 namespace tavrel::test {
 
+/// From now on only what ends no program and what the fonts at hand hold: what the toolkit keeps of fonts
+/// that it has looked through for other characters would pass for growth.
+void TypePlainly();
+
 /// What a person types, without line breaks and control characters: words, tags, separators, characters that
 /// no note can hold.
 QString AnyTyped(Dice& dice);
