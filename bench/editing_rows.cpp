@@ -47,7 +47,7 @@ class Document {
   explicit Document(const Texts& texts) : Document() {
     for (int page = 1; page <= kLastPage; ++page) {
       const auto text = static_cast<std::size_t>(page) - 1;
-      SetTag(state_->Page(page), text < texts.size() ? texts[text] : "", "<text>", 1);
+      SetTag(state_->Page(page).Edit(), text < texts.size() ? texts[text] : "", "<text>", 1);
     }
     pages_ = state_->Pages;
   }

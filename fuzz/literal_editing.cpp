@@ -22,7 +22,7 @@ std::string ThreeDigits(int number) {
 
 void RenumberAll(Global& global, const LiteralRule& rule) {
   for (int page = 1; page <= 999; ++page) {
-    if (!global.Page(page).empty()) LiteralRenumber(global.Page(page), rule);
+    if (!global.Page(page).empty()) LiteralRenumber(global.Page(page).Edit(), rule);
   }
 }
 

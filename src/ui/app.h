@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/document/global.h"
+#include "core/history/step_recorder.h"
 #include "core/platform.h"
 
 namespace tavrel {
@@ -14,6 +15,7 @@ struct App {
   Platform& System;
   MessageService& Messages;
   ProgramControl& Control;
+  StepRecorder Steps{};  ///< what can be taken back
 
   const CodePage& CodePageInUse() const { return System.SystemCodePage(); }
 };

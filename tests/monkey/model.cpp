@@ -1,11 +1,18 @@
 #include "monkey/model.h"
 
+#include <algorithm>
+
 #include "core/editing/literal_tags.h"
 #include "monkey/literal_page.h"
 #include "monkey/texts.h"
 
 namespace tavrel::test {
 namespace {
+
+template <typename Records, typename Texts>
+bool IsSame(const Records& records, const Texts& texts) {
+  return std::equal(records.begin(), records.end(), texts.begin());
+}
 
 void ExpectSameLink(const Link& actual, const Link& expected, const std::string& what) {
   ExpectSame(actual.Text, expected.Text, "the text of " + what);
@@ -15,13 +22,13 @@ void ExpectSameLink(const Link& actual, const Link& expected, const std::string&
 }  // namespace
 
 void Model::Resynchronise(const Global& global, const Screen& screen) {
-  editor_.Pages = global.Pages;
+  std::copy(global.Pages.begin(), global.Pages.end(), editor_.Pages.begin());
   editor_.PageClipboard = global.PageClipboard;
   editor_.CurrentPage = global.CurrentPage;
   editor_.Fields = screen.Fields();
   for (int row = 1; row <= kLastLink; ++row)
     editor_.Fields.Links.at(static_cast<std::size_t>(row) - 1) = screen.LinkAt(row);
-  music_ = global.MusicLinks;
+  std::copy(global.MusicLinks.begin(), global.MusicLinks.end(), music_.begin());
   doc_ = global.DocPath.string();
   find_text_ = global.FindText;
   entry_ = screen.Entry();
@@ -47,11 +54,11 @@ void Model::ObserveCovered(const Screen& screen) {
 }
 
 void Model::Compare(const Global& global, const Screen& screen) const {
-  for (int page = 0; global.Pages != editor_.Pages && page <= kLastPage + 1; ++page) {
+  for (int page = 0; !IsSame(global.Pages, editor_.Pages) && page <= kLastPage + 1; ++page) {
     ExpectSame(global.Page(page), editor_.Pages.at(static_cast<std::size_t>(page)),
                "page " + std::to_string(page));
   }
-  for (int link = 0; global.MusicLinks != music_ && link <= kLastMusicLink; ++link) {
+  for (int link = 0; !IsSame(global.MusicLinks, music_) && link <= kLastMusicLink; ++link) {
     ExpectSame(global.MusicLink(link), music_.at(static_cast<std::size_t>(link)),
                "music " + std::to_string(link));
   }

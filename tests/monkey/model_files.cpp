@@ -69,15 +69,15 @@ void Model::Clear() {
 
 void Model::LoadDoc() {
   const auto global = std::make_unique<Global>();
-  global->Pages = editor_.Pages;
-  global->MusicLinks = music_;
+  std::copy(editor_.Pages.begin(), editor_.Pages.end(), global->Pages.begin());
+  std::copy(music_.begin(), music_.end(), global->MusicLinks.begin());
   try {
     fuzz::LiteralReadDocument(BytesOf(program_folder_ / doc_), *global);
   } catch (const RunTimeError& error) {
     Break(std::string("a damaged document was opened: ") + error.what());
   }
-  editor_.Pages = global->Pages;
-  music_ = global->MusicLinks;
+  std::copy(global->Pages.begin(), global->Pages.end(), editor_.Pages.begin());
+  std::copy(global->MusicLinks.begin(), global->MusicLinks.end(), music_.begin());
   RefreshGrid2();
   editor_.CurrentPage = 1;
   LoadPage(1);

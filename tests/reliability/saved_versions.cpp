@@ -51,7 +51,7 @@ Global& DocumentVersion(int version) {
   for (int page = 1; page <= Pages(version); ++page) {
     const std::string& record = FullSize().Page(page);
     if (global->Page(page).empty()) global->Page(page) = record;
-    global->Page(page).replace(record.size(), std::string::npos, mark);
+    global->Page(page).Edit().replace(record.size(), std::string::npos, mark);
   }
   return *global;
 }

@@ -129,7 +129,7 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
   }
   text.append(kLineEnd);
   for (int page = 0; page <= kLastPage; ++page) {
-    const std::string& record = page == typed_page ? typed_record : global.Page(page);
+    const std::string& record = page == typed_page ? typed_record : global.Page(page).Bytes();
     if (!record.empty()) AppendLine(text, page, OnOneLine(record));
   }
   return text;

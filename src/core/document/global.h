@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <string>
 
+#include "core/document/record.h"
+
 namespace tavrel {
 
 inline constexpr int kLastPage = 999;       ///< pages are numbered 1 to 999
@@ -15,10 +17,10 @@ inline constexpr int kLastSetting = 20;     ///< settings are numbered 1 to 20
 
 /// The state that the windows share: the document in memory, the place in it and the preferences.
 struct Global {
-  std::array<std::string, 1001>
-      Pages;  ///< page records by number; an empty one is no page. Entries 0 and 1000
-              ///< are no pages, but files may fill them; 1000 is never written.
-  std::array<std::string, 101> MusicLinks;  ///< music link records by number; an empty one is no music link.
+  std::array<Record, 1001> Pages;           ///< page records by number; an empty one is no page. Entries 0 and
+                                            ///< 1000 are no pages, but files may fill them; 1000 is never
+                                            ///< written.
+  std::array<Record, 101> MusicLinks;       ///< music link records by number; an empty one is no music link.
                                             ///< Entry 0 is none; 100 is never written.
   std::filesystem::path DocPath;            ///< bare file name of the open document; empty: none is open
   std::int16_t CurrentPage = 1;             ///< the page in the editor
@@ -33,10 +35,10 @@ struct Global {
 
   bool IsDocumentOpen() const { return !DocPath.empty(); }
 
-  std::string& Page(int number) { return Pages.at(static_cast<std::size_t>(number)); }
-  const std::string& Page(int number) const { return Pages.at(static_cast<std::size_t>(number)); }
-  std::string& MusicLink(int number) { return MusicLinks.at(static_cast<std::size_t>(number)); }
-  const std::string& MusicLink(int number) const { return MusicLinks.at(static_cast<std::size_t>(number)); }
+  Record& Page(int number) { return Pages.at(static_cast<std::size_t>(number)); }
+  const Record& Page(int number) const { return Pages.at(static_cast<std::size_t>(number)); }
+  Record& MusicLink(int number) { return MusicLinks.at(static_cast<std::size_t>(number)); }
+  const Record& MusicLink(int number) const { return MusicLinks.at(static_cast<std::size_t>(number)); }
 };
 
 /// Empties pages 1 to 999 and music links 1 to 100; the entries beyond stay.

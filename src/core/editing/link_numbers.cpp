@@ -68,7 +68,7 @@ void RenumberLinks(Global& global, const LinkRule& rule) {
   Changes changes;
   for (int page = 1; page <= kLastPage; ++page) {
     FindChanges(global.Page(page), rule, changes);
-    Apply(changes, global.Page(page));
+    if (!changes.empty()) Apply(changes, global.Page(page).Edit());
   }
 }
 

@@ -27,16 +27,20 @@ std::optional<Match> FindInPages(const Global& global, std::string_view wanted, 
   return std::nullopt;
 }
 
-void ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
+int ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
                     const CodePage& code_page) {
   const TextSearch search(wanted, match_case, code_page);
   std::size_t room = kMostGrowth;
+  int changed = 0;
   for (int page = 1; page <= kLastRecord; ++page) {
     const std::string_view text = TagContent(global.Page(page), kText, 1);
     const std::string replaced = Replacement(text, search, replacement, room).Run();
     if (replaced.size() > text.size()) room -= std::min(room, replaced.size() - text.size());
-    SetTag(global.Page(page), replaced, kText, 1);
+    if (replaced == text) continue;
+    SetTag(global.Page(page).Edit(), replaced, kText, 1);
+    ++changed;
   }
+  return changed;
 }
 
 }  // namespace tavrel

@@ -24,8 +24,8 @@ std::optional<Match> FindInPages(const Global& global, std::string_view wanted, 
 /// Replaces `wanted`, which must not be empty, in all pages. Each search goes on one length of `wanted`
 /// behind the start of the last replacement, which may lie inside that replacement or behind its end;
 /// replacements are compared as typed. A text is searched up to its 32,767th character, and replacing stops
-/// once it has made the document 20 million characters longer.
-void ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
+/// once it has made the document 20 million characters longer. Gives the number of pages changed.
+int ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
                     const CodePage& code_page);
 
 }  // namespace tavrel

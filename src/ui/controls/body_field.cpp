@@ -87,6 +87,15 @@ void BodyField::Select(std::size_t position, std::size_t length) {
   ensureCursorVisible();
 }
 
+void BodyField::SetCaret(int anchor, int caret) {
+  const int end = document()->characterCount() - 1;
+  QTextCursor cursor = textCursor();
+  cursor.setPosition(std::min(anchor, end));
+  cursor.setPosition(std::min(caret, end), QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+  ensureCursorVisible();
+}
+
 int BodyField::CursorPosition(std::size_t byte) const {
   const int last = document()->characterCount() - 1;
   const int bytes = static_cast<int>(std::min(byte, static_cast<std::size_t>(Length())));
@@ -103,6 +112,11 @@ QString BodyField::SelectedText() const {
   QString text = textCursor().selectedText();
   text.replace(QChar::ParagraphSeparator, kLineFeed);
   return WithoutPictures(text);
+}
+
+bool BodyField::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event))) return false;
+  return QPlainTextEdit::event(event);
 }
 
 void BodyField::keyPressEvent(QKeyEvent* event) {

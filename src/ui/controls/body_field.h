@@ -6,13 +6,14 @@
 #include <string_view>
 
 #include "core/text/code_page.h"
+#include "ui/controls/text_field.h"
 
 namespace tavrel {
 
 /// The many-line text field over bytes of the code page. Line breaks are CR LF in the bytes and count as two
 /// characters; every other byte, also a lone CR or LF, comes back as it went in. What enters is made fit as
 /// in LineField.
-class BodyField : public QPlainTextEdit {
+class BodyField : public QPlainTextEdit, public TextField {
   Q_OBJECT
 
  public:
@@ -35,11 +36,20 @@ class BodyField : public QPlainTextEdit {
   /// Puts a text, made fit for the field, in place of the selection or in at the caret.
   void ReplaceSelection(const QString& text);
 
+  bool HasUndo() const override { return document()->isUndoAvailable(); }
+  bool HasRedo() const override { return document()->isRedoAvailable(); }
+  void Undo() override { undo(); }
+  void Redo() override { redo(); }
+  int Anchor() const override { return textCursor().anchor(); }
+  int Caret() const override { return textCursor().position(); }
+  void SetCaret(int anchor, int caret) override;
+
  signals:
   /// Characters that the code page does not hold became "?". If nobody listens, the field tells it itself.
   void CharactersReplaced(int count);
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;

@@ -10,6 +10,7 @@
 #include <QMetaMethod>
 #include <QMimeData>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -41,6 +42,23 @@ void LineField::SetBytes(std::string_view bytes) {
 
 int LineField::Number() const {
   return DecimalNumber(Bytes());
+}
+
+int LineField::Anchor() const {
+  if (!hasSelectedText()) return cursorPosition();
+  return selectionStart() == cursorPosition() ? selectionEnd() : selectionStart();
+}
+
+void LineField::SetCaret(int anchor, int caret) {
+  const int end = static_cast<int>(text().size());
+  anchor = std::min(anchor, end);
+  setCursorPosition(anchor);
+  setSelection(anchor, std::min(caret, end) - anchor);
+}
+
+bool LineField::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event))) return false;
+  return QLineEdit::event(event);
 }
 
 void LineField::keyPressEvent(QKeyEvent* event) {

@@ -6,13 +6,14 @@
 #include <string_view>
 
 #include "core/text/code_page.h"
+#include "ui/controls/text_field.h"
 
 namespace tavrel {
 
 /// A one-line text field over bytes of the code page. What is typed, pasted or dropped is made fit as it
 /// enters: characters outside the code page become "?", line breaks become blanks. A line break that a
 /// loaded text holds already stays.
-class LineField : public QLineEdit {
+class LineField : public QLineEdit, public TextField {
   Q_OBJECT
 
  public:
@@ -26,6 +27,14 @@ class LineField : public QLineEdit {
   /// The number that the text consists of; anything else counts as 0.
   int Number() const;
 
+  bool HasUndo() const override { return isUndoAvailable(); }
+  bool HasRedo() const override { return isRedoAvailable(); }
+  void Undo() override { undo(); }
+  void Redo() override { redo(); }
+  int Anchor() const override;
+  int Caret() const override { return cursorPosition(); }
+  void SetCaret(int anchor, int caret) override;
+
  signals:
   /// A key was pressed in the field, whatever it did.
   void KeyPress();
@@ -35,6 +44,7 @@ class LineField : public QLineEdit {
   void CharactersReplaced(int count);
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

@@ -8,6 +8,15 @@
 
 namespace tavrel {
 
+/// Is told of each command of the program: of every handler but those that run while another one does.
+class CommandWatch {
+ public:
+  virtual ~CommandWatch() = default;
+  virtual void Begins() = 0;
+  /// Not told if the command fails.
+  virtual void Ends() = 0;
+};
+
 /// How handlers run and how the program ends.
 class ProgramControl {
  public:
@@ -15,6 +24,9 @@ class ProgramControl {
 
   /// Runs a handler. An error that it does not handle goes to Fail; none passes through the toolkit.
   void Run(const std::function<void()>& handler) noexcept;
+
+  /// Null for none.
+  void SetWatch(CommandWatch* watch) { watch_ = watch; }
 
   /// The document was saved, or the user gave up what is not saved of it.
   virtual void DocumentSettled() {}
@@ -24,6 +36,12 @@ class ProgramControl {
 
   /// Ends the program at once: no further event runs and no window is asked.
   virtual void End() = 0;
+
+ private:
+  void RunWatched(const std::function<void()>& handler);
+
+  CommandWatch* watch_ = nullptr;
+  bool is_watching_ = false;
 };
 
 /// Runs `handler` under `control`, with the arguments if it takes them.

@@ -8,6 +8,7 @@ namespace tavrel {
 
 void SaveDoc(App& app) {
   SaveDocument(app.State, app.System);
+  app.Steps.Saved();
   app.Control.DocumentSettled();
   LetWindowsRedraw();
 }

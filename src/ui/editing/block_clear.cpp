@@ -1,8 +1,8 @@
 #include "ui/editing/block_clear.h"
 
-#include "core/editing/blocks.h"
 #include "ui/controls/hourglass.h"
 #include "ui/controls/program_control.h"
+#include "ui/editing/page_range_name.h"
 #include "ui_block_clear.h"
 
 namespace tavrel {
@@ -32,7 +32,9 @@ void BlockClear::Command2_Click() {
   const int end = ui_->Text2->Number();
   if (!CanClearPages(start, end)) return;
   const Hourglass hourglass;
-  ClearPages(app_.State, RangeBetween(start, end));
+  const PageRange pages = RangeBetween(start, end);
+  app_.Steps.Name(tr("Clear %1").arg(NameOf(pages)).toStdString());
+  ClearPages(app_.State, pages);
   accept();
 }
 

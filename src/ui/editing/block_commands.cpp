@@ -1,11 +1,13 @@
 #include "ui/editing/block_commands.h"
 
-#include "core/editing/blocks.h"
+#include <algorithm>
+
 #include "ui/controls/hourglass.h"
 #include "ui/editing/block_clear.h"
 #include "ui/editing/block_copy.h"
 #include "ui/editing/block_delete.h"
 #include "ui/editing/block_insert.h"
+#include "ui/editing/page_range_name.h"
 #include "ui/main/editor.h"
 
 namespace tavrel {
@@ -44,6 +46,7 @@ void BlockCommands::EditBlockDelete_Click() {
   // If the end was typed first, this stores the page that was opened in a wrong place, which is deleted with
   // it.
   editor_.SavePage();
+  app_.Steps.Name(tr("Delete %1").arg(NameOf(pages)).toStdString());
   DeletePages(app_.State, pages, app_.CodePageInUse());
   ShowChange();
 }
@@ -59,6 +62,7 @@ void BlockCommands::EditBlockInsert_Click() {
   const Hourglass hourglass;
   OpenPage(at);
   editor_.SavePage();
+  app_.Steps.Name(tr("Insert %1").arg(NameOf({at, std::min(at + count - 1, kLastPage)})).toStdString());
   InsertPages(app_.State, at, count);
   ShowChange();
 }

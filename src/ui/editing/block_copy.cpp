@@ -1,8 +1,8 @@
 #include "ui/editing/block_copy.h"
 
-#include "core/editing/blocks.h"
 #include "ui/controls/hourglass.h"
 #include "ui/controls/program_control.h"
+#include "ui/editing/page_range_name.h"
 #include "ui_block_copy.h"
 
 namespace tavrel {
@@ -33,7 +33,9 @@ void BlockCopy::Command2_Click() {
   const int to = ui_->Text3->Number();
   if (!CanCopyPages(start, end, to)) return;
   const Hourglass hourglass;
-  CopyPages(app_.State, RangeBetween(start, end), to);
+  const PageRange pages = RangeBetween(start, end);
+  app_.Steps.Name(tr("Copy %1 to page %2").arg(NameOf(pages)).arg(to).toStdString());
+  CopyPages(app_.State, pages, to);
   accept();
 }
 

@@ -16,19 +16,28 @@ LinkCommands::LinkCommands(App& app, Editor& editor, Grid& links)
 
 void LinkCommands::EditLinkUp_Click() {
   const int row = links_.Row();
-  if (row > 1) SwapRows(row, row - 1);
+  if (row <= 1) return;
+  NameStep(tr("Move link %1 up on page %2"));
+  SwapRows(row, row - 1);
 }
 
 void LinkCommands::EditLinkDown_Click() {
   const int row = links_.Row();
-  if (row >= 1 && row < kLastLink) SwapRows(row, row + 1);
+  if (row < 1 || row >= kLastLink) return;
+  NameStep(tr("Move link %1 down on page %2"));
+  SwapRows(row, row + 1);
 }
 
 void LinkCommands::EditLinkDelete_Click() {
   const int row = links_.Row();
   if (row < 1) return;
+  NameStep(tr("Delete link %1 of page %2"));
   for (const int column : {kTextColumn, kTargetColumn}) links_.SetTextMatrix(row, column, "");
   StoreAndShow(row);
+}
+
+void LinkCommands::NameStep(const QString& command) {
+  app_.Steps.Name(command.arg(links_.Row()).arg(app_.State.CurrentPage).toStdString());
 }
 
 void LinkCommands::SwapRows(int row, int other) {

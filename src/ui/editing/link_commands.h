@@ -23,6 +23,7 @@ class LinkCommands : public QObject {
   void EditLinkDelete_Click();
 
  private:
+  void NameStep(const QString& command);
   void SwapRows(int row, int other);
   void StoreAndShow(int row);
 

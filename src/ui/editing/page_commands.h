@@ -30,6 +30,8 @@ class PageCommands : public QObject {
   void EditClear_Click();
 
  private:
+  void TakePageOut();
+  void NameStep(const QString& command);
   void ShowChange();
 
   App& app_;

@@ -36,8 +36,10 @@ void SearchCommands::EditReplace_Click() {
   if (form.IsCancelled()) return;
   const Hourglass hourglass;
   editor_.SavePage();
-  ReplaceInPages(app_.State, app_.State.FindText, form.ReplacementText(), form.IsCaseMatched(),
-                 app_.CodePageInUse());
+  const int pages = ReplaceInPages(app_.State, app_.State.FindText, form.ReplacementText(),
+                                   form.IsCaseMatched(), app_.CodePageInUse());
+  const QString name = pages == 1 ? tr("Replace in 1 page") : tr("Replace in %1 pages").arg(pages);
+  app_.Steps.Name(name.toStdString());
   editor_.LoadPage(app_.State.CurrentPage);
 }
 

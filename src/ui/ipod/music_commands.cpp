@@ -9,6 +9,7 @@ MusicCommands::MusicCommands(App& app, Editor& editor, QWidget* window)
     : app_(app), editor_(editor), window_(window) {}
 
 void MusicCommands::EditMusic_Click() {
+  app_.Steps.Name(tr("Music links").toStdString());
   editor_.SavePage();
   MusicEditor(app_, window_).exec();
   editor_.RefreshMusicLinks();

@@ -12,6 +12,7 @@ Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, 
       ui_(ui),
       file_menu_(app, editor, window),
       tools_(app, editor, window),
+      history_(app, editor, *window, *ui.StatusBar),
       pages_(app, editor),
       links_(app, editor, *ui.MSFlexGrid1),
       text_(*ui.Text1),
@@ -21,6 +22,7 @@ Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, 
       planner_(app, editor, window),
       help_menu_(app, skins, window) {
   ConnectFileMenu();
+  ConnectHistory();
   ConnectPageMenu();
   ConnectLinkMenu();
   ConnectTextMenu();
@@ -44,6 +46,14 @@ void Commands::ConnectFileMenu() {
   Connect(ui_.ToolsPublish, tools_, &ToolsCommands::ToolsPublish_Click);
   Connect(ui_.ToolsManage, tools_, &ToolsCommands::ToolsManage_Click);
   Connect(ui_.ToolsImport, tools_, &ToolsCommands::ToolsImport_Click);
+}
+
+void Commands::ConnectHistory() {
+  Connect(ui_.EditUndo, history_, &HistoryCommands::EditUndo_Click);
+  Connect(ui_.EditRedo, history_, &HistoryCommands::EditRedo_Click);
+  // People bring either key from other programs.
+  ui_.EditRedo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+  history_.NameIn(*ui_.EditMenu, *ui_.EditUndo, *ui_.EditRedo);
 }
 
 void Commands::ConnectPageMenu() {
@@ -117,7 +127,7 @@ void Commands::ConnectToolBar() {
   Connect(ui_.Image12, tools_, &ToolsCommands::ToolsPublish_Click);
   Connect(ui_.Image13, pages_, &PageCommands::EditPageUp_Click);
   Connect(ui_.Image14, pages_, &PageCommands::EditPageDown_Click);
-  Connect(ui_.Image15, pages_, &PageCommands::EditDelete_Click);
+  Connect(ui_.Image15, pages_, &PageCommands::EditPageDeleteIt_Click);
   Connect(ui_.Image16, links_, &LinkCommands::EditLinkUp_Click);
   Connect(ui_.Image17, links_, &LinkCommands::EditLinkDown_Click);
   Connect(ui_.Image18, links_, &LinkCommands::EditLinkDelete_Click);

@@ -4,6 +4,7 @@
 
 #include "ui/document/file_menu.h"
 #include "ui/editing/block_commands.h"
+#include "ui/editing/history_commands.h"
 #include "ui/editing/link_commands.h"
 #include "ui/editing/page_commands.h"
 #include "ui/editing/search_commands.h"
@@ -30,6 +31,7 @@ class Commands : public QObject {
 
  private:
   void ConnectFileMenu();
+  void ConnectHistory();
   void ConnectPageMenu();
   void ConnectLinkMenu();
   void ConnectTextMenu();
@@ -47,6 +49,7 @@ class Commands : public QObject {
   Ui::Main& ui_;
   FileMenu file_menu_;
   ToolsCommands tools_;
+  HistoryCommands history_;
   PageCommands pages_;
   LinkCommands links_;
   TextCommands text_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/history/step_recorder.h"
+
 namespace tavrel {
 
 /// The editor as the commands know it.
@@ -23,6 +25,11 @@ class Editor {
   virtual void UpdateGrid2() = 0;
   /// Rewrites titles and notes of all rows of the pages grid.
   virtual void RefreshGrid2() = 0;
+
+  /// What the fields hold, and where the caret is.
+  virtual Shown Now() const = 0;
+  /// Shows the document as it is now, at a place in it.
+  virtual void ShowAt(const Place& place) = 0;
 
   /// Renews the music links in the lists of targets, and the page's own from its record. The lists' pages and
   /// what was typed as a link's target stay.

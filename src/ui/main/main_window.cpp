@@ -11,6 +11,7 @@
 #include "ui/controls/program_control.h"
 #include "ui/controls/redraw.h"
 #include "ui/controls/text_conversion.h"
+#include "ui/main/command_steps.h"
 #include "ui/main/commands.h"
 #include "ui/main/field_notices.h"
 #include "ui/main/hover_outline.h"
@@ -40,6 +41,7 @@ Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new
   outline_ = std::make_unique<HoverOutline>(
       ui_->ToolBar->findChildren<PictureButton*>(),
       QList<QWidget*>{ui_->Background, ui_->ToolBar, ui_->PagesPane, ui_->WritingPart, ui_->LinksPart});
+  steps_ = std::make_unique<CommandSteps>(app_, *this);
   ScaleFont(*ui_->CoverTitle, kTitleFont);
   ui_->Panes->setStretchFactor(1, 1);
   ui_->PagePane->setStretchFactor(0, 1);
@@ -101,6 +103,7 @@ void Main::LoadDoc() {
   LoadPage(1);
   ui_->MSFlexGrid2->scrollToTop();
   app_.State.IsDocumentShown = true;
+  app_.Steps.Start();
 }
 
 void Main::LoadPage(int page) {
@@ -114,6 +117,7 @@ void Main::LoadPage(int page) {
   app_.State.CurrentLink = 1;
   grids_->SelectPage(page);
   shown_record_ = RecordOfFields();
+  ++showing_;
 }
 
 void Main::SavePage() {
@@ -152,7 +156,21 @@ std::string Main::RecordOfFields() const {
 
 std::string Main::TypedPage() const {
   std::string typed = RecordOfFields();
-  return typed == shown_record_ ? app_.State.Page(app_.State.CurrentPage) : typed;
+  return typed == shown_record_ ? app_.State.Page(app_.State.CurrentPage).Bytes() : typed;
+}
+
+Shown Main::Now() const {
+  return {page_->CaretPlace(*this), TypedPage(), showing_};
+}
+
+void Main::ShowAt(const Place& place) {
+  app_.State.CurrentPage = static_cast<std::int16_t>(place.Page);
+  RefreshGrid2();
+  LoadPage(place.Page);
+  page_->ShowLink(grids_->LinkAt(place.Link));
+  grids_->SelectLink(place.Link);
+  app_.State.CurrentLink = static_cast<std::int16_t>(place.Link);
+  page_->ShowCaret(place);
 }
 
 void Main::TellRecovered(const QString& notice) {
@@ -205,6 +223,7 @@ void Main::HideControls() {
   ui_->Cover->setCurrentWidget(ui_->Picture1);
   ui_->EditMenu->menuAction()->setEnabled(false);
   statusBar()->hide();
+  app_.Steps.Start();
 }
 
 void Main::ShowDocumentName() {

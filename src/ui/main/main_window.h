@@ -20,6 +20,7 @@ namespace tavrel {
 class Commands;
 class FieldNotices;
 class HoverOutline;
+class CommandSteps;
 class PageEditor;
 class PageGrids;
 class SkinPictures;
@@ -40,6 +41,8 @@ class Main : public QMainWindow, public Editor {
   void UpdateGrid1() override;
   void UpdateGrid2() override;
   void RefreshGrid2() override;
+  Shown Now() const override;
+  void ShowAt(const Place& place) override;
   void RefreshMusicLinks() override;
   void ShowControls() override;
   void HideControls() override;
@@ -99,8 +102,10 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<FieldNotices> notices_;
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<HoverOutline> outline_;
+  std::unique_ptr<CommandSteps> steps_;
   QTimer* timer1_;
   std::string shown_record_;  ///< what the fields gave when the page was shown or stored
+  std::size_t showing_ = 0;   ///< counts the pages shown
 };
 
 }  // namespace tavrel

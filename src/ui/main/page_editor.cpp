@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <algorithm>
+
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "ui_main_window.h"
@@ -52,6 +54,28 @@ void PageEditor::RefreshMusicTargets() {
   }
   ui_.Combo1->SetItems(targets + music_links);
   ui_.Combo2->SetItems(music_links);
+}
+
+Place PageEditor::CaretPlace(const QWidget& window) const {
+  const QWidget* control = window.focusWidget();
+  const auto fields = Fields();
+  const auto found = std::find(fields.begin(), fields.end(), control);
+  QWidget* field_with_caret = found == fields.end() ? ui_.Text1 : *found;
+  const TextField& field = *FieldOf(field_with_caret);
+  return {app_.State.CurrentPage, app_.State.CurrentLink, field_with_caret->objectName().toStdString(),
+          field.Anchor(), field.Caret()};
+}
+
+void PageEditor::ShowCaret(const Place& place) {
+  for (QWidget* control : Fields()) {
+    if (control->objectName().toStdString() != place.Field) continue;
+    FieldOf(control)->SetCaret(place.Anchor, place.Caret);
+    control->setFocus();
+  }
+}
+
+std::array<QWidget*, 7> PageEditor::Fields() const {
+  return {ui_.Text1, ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6, ui_.Combo1, ui_.Combo2};
 }
 
 PageFields PageEditor::TypedFields() const {

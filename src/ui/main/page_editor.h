@@ -1,7 +1,12 @@
 #pragma once
 
+#include <array>
+
 #include "core/document/page_record.h"
+#include "core/history/history.h"
 #include "ui/app.h"
+
+class QWidget;
 
 namespace Ui {
 class Main;
@@ -25,12 +30,19 @@ class PageEditor {
   /// Renews the music links in both lists; the pages in the first stay as they were listed.
   void RefreshMusicTargets();
 
+  /// Where the caret is, in the field of the window that has the focus or else in the body.
+  Place CaretPlace(const QWidget& window) const;
+  /// Puts the caret there, and the focus.
+  void ShowCaret(const Place& place);
+
   /// What the fields hold, links apart.
   PageFields TypedFields() const;
   /// The link in the entry fields, trimmed.
   Link TypedLink() const;
 
  private:
+  std::array<QWidget*, 7> Fields() const;
+
   App& app_;
   Ui::Main& ui_;
 };

@@ -26,7 +26,7 @@ const std::string kLinkToTitle = "<link><linktext>Title page</linktext><linkto>0
 void ExpectPages(const DefaultPages& chosen, const std::vector<std::string>& expected) {
   Global global;
   MakeDefaultPages(global, chosen);
-  std::array<std::string, 1001> pages;
+  decltype(Global::Pages) pages;
   std::copy(expected.begin(), expected.end(), pages.begin() + 1);
   EXPECT_EQ(global.Pages, pages);
   for (const std::string& link : global.MusicLinks) EXPECT_EQ(link, "");

@@ -1,5 +1,6 @@
 #include <array>
 #include <gtest/gtest.h>
+#include <algorithm>
 #include <memory>
 #include <random>
 #include <string>
@@ -119,7 +120,8 @@ TEST(RandomPlans, BecomePagesStepByStep) {
   std::mt19937 random(7);
   const auto global = std::make_unique<Global>();
   for (int page = 0; page <= 1000; ++page) global->Page(page) = "page " + std::to_string(page);
-  const auto expected = std::make_unique<std::array<std::string, 1001>>(global->Pages);
+  const auto expected = std::make_unique<std::array<std::string, 1001>>();
+  std::copy(global->Pages.begin(), global->Pages.end(), expected->begin());
   int refusals = 0;
   for (int round = 0; round < kInsertions && !HasFailure(); ++round) {
     Plan plan = AnyPlan(random);

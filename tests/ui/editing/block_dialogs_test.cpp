@@ -42,7 +42,7 @@ class BlockDialogsTest : public EditDialogsTest, public testing::WithParamInterf
   static QString Field(int number) { return QString("Text%1").arg(number); }
 
  private:
-  std::array<std::string, 1001> pages_;
+  decltype(Global::Pages) pages_;
 };
 
 TEST_P(BlockDialogsTest, BeginsWithTheFirstNumberEveryTime) {

@@ -218,7 +218,7 @@ TEST_F(MusicEditorTest, PastedTextIsMadeFit) {
     Click(dialog, "Command2");
     Click(dialog, "Command1");
   });
-  EXPECT_EQ(State.MusicLink(1).find_first_of("\r\n"), std::string::npos);
+  EXPECT_EQ(State.MusicLink(1).Bytes().find_first_of("\r\n"), std::string::npos);
 }
 
 TEST_F(MusicEditorTest, AnotherFieldsTagIsToldToo) {

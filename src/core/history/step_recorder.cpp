@@ -1,0 +1,113 @@
+#include "core/history/step_recorder.h"
+
+namespace tavrel {
+namespace {
+
+std::string EditName(int page) {
+  return "Edit page " + std::to_string(page);
+}
+
+/// What a step is called that the command has not named.
+std::string NameAfterChange(const Step& step) {
+  if (step.Pages.empty()) return "Music links";
+  return step.Pages.size() == 1 ? EditName(step.Pages.front().Number) : "Edit pages";
+}
+
+/// Whether something typed on the page is not stored.
+bool IsTyped(const Global& global, const Shown& shown) {
+  return !(global.Page(shown.At.Page) == shown.Typed);
+}
+
+}  // namespace
+
+void StepRecorder::Start() {
+  history_.Start();
+  before_.reset();
+}
+
+void StepRecorder::Begin(const Global& global, Shown shown) {
+  before_ = {RecordsOf(global), std::move(shown)};
+  name_.clear();
+  is_saved_ = false;
+}
+
+void StepRecorder::End(const Global& global, const Shown& shown) {
+  if (!before_) return;
+  Moment before = std::move(*before_);
+  before_.reset();
+  const auto page = static_cast<std::size_t>(before.Editor.At.Page);
+  if (shown.Showing != before.Editor.Showing) {
+    AddStored(before, before.Editor.Typed, 0);
+  } else {
+    AddStored(before, global.Pages.at(page), shown.Showing);
+  }
+  AddRest(before, global, shown.At);
+  if (is_saved_) history_.MarkSaved();
+}
+
+/// Makes storing the page that was in the fields a step of its own.
+void StepRecorder::AddStored(Moment& before, const Record& stored, std::size_t showing) {
+  const int number = before.Editor.At.Page;
+  Record& page = before.Document.Pages.at(static_cast<std::size_t>(number));
+  if (page == stored) return;
+  history_.Add({.Name = EditName(number),
+                .Pages = {{number, page, stored}},
+                .MusicLinks = {},
+                .Before = before.Editor.At,
+                .After = before.Editor.At,
+                .Showing = showing});
+  page = stored;
+}
+
+void StepRecorder::AddRest(const Moment& before, const Global& global, const Place& after) {
+  Step step = Difference(before.Document, global);
+  if (step.IsEmpty()) return;
+  step.Name = name_.empty() ? NameAfterChange(step) : std::move(name_);
+  step.Before = before.Editor.At;
+  step.After = after;
+  history_.Add(std::move(step));
+}
+
+const Step* StepRecorder::Undo(Global& global) {
+  if (!before_) return nullptr;
+  Moment before = std::move(*before_);
+  before_.reset();
+  if (IsTyped(global, before.Editor)) {
+    const std::size_t steps = StepsSinceTyped(before.Editor);
+    for (std::size_t step = 0; step < steps; ++step) history_.Undo(global);
+    if (steps == 0) AddStored(before, before.Editor.Typed, 0);
+  }
+  return history_.NextUndo() == nullptr ? nullptr : &history_.Undo(global);
+}
+
+const Step* StepRecorder::Redo(Global& global) {
+  if (!before_ || !RedoName(global, before_->Editor)) return nullptr;
+  before_.reset();
+  return &history_.Redo(global);
+}
+
+std::optional<std::string> StepRecorder::UndoName(const Global& global, const Shown& shown) const {
+  std::size_t back = 0;
+  if (IsTyped(global, shown)) {
+    back = StepsSinceTyped(shown);
+    if (back == 0) return EditName(shown.At.Page);
+  }
+  const Step* step = history_.StepBack(back);
+  return step == nullptr ? std::nullopt : std::optional(step->Name);
+}
+
+std::optional<std::string> StepRecorder::RedoName(const Global& global, const Shown& shown) const {
+  const Step* step = history_.NextRedo();
+  return step == nullptr || IsTyped(global, shown) ? std::nullopt : std::optional(step->Name);
+}
+
+/// If the fields' own undo has gone back behind what was stored meanwhile, so many steps have to follow it.
+std::size_t StepRecorder::StepsSinceTyped(const Shown& shown) const {
+  for (std::size_t count = 0;; ++count) {
+    const Step* step = history_.StepBack(count);
+    if (step == nullptr || step->Showing != shown.Showing) return 0;
+    if (step->Pages.front().Before == shown.Typed) return count + 1;
+  }
+}
+
+}  // namespace tavrel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ui/app.h"
+#include "ui/controls/program_control.h"
+
+namespace tavrel {
+
+class Editor;
+
+/// Records what every command does to the document, so that it can be taken back.
+class CommandSteps : public CommandWatch {
+ public:
+  CommandSteps(App& app, const Editor& editor);
+  ~CommandSteps() override;
+
+  void Begins() override;
+  void Ends() override;
+
+ private:
+  App& app_;
+  const Editor& editor_;
+};
+
+}  // namespace tavrel
