@@ -56,6 +56,7 @@ bool Tour::Play() {
   WritePages();
   AddMusic();
   InsertAPage();
+  ClearAndUndo();
   FindAndReplace();
   MoveBlocks();
   FillThePlanner();

@@ -31,6 +31,7 @@ class Tour {
   void WritePages();
   void AddMusic();
   void InsertAPage();
+  void ClearAndUndo();
   void FindAndReplace();
   void MoveBlocks();
   void FillThePlanner();

@@ -1,3 +1,7 @@
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+
 #include "support/user.h"
 #include "tour/tour.h"
 #include "ui/controls/grid.h"
@@ -27,6 +31,17 @@ void Tour::InsertAPage() {
   WriteLink(1, "The caf\u00E9", "5");
   ShowPage(3);
   TakePicture(*window_, "renumbered");
+}
+
+void Tour::ClearAndUndo() {
+  Choose("EditClear");
+  QMenuBar& bar = *window_->menuBar();
+  auto& menu = Find<QMenu>(*window_, "EditMenu");
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(menu.menuAction()).center());
+  TakePicture(menu, "undo");
+  menu.close();
+  Choose("EditUndo");
+  TakePicture(*window_, "undone");
 }
 
 void Tour::FindAndReplace() {
