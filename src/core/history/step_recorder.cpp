@@ -35,11 +35,12 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
   if (!before_) return;
   Moment before = std::move(*before_);
   before_.reset();
-  const auto page = static_cast<std::size_t>(before.Editor.At.Page);
-  if (shown.Showing != before.Editor.Showing) {
-    AddStored(before, before.Editor.Typed, 0);
+  const Record& now = global.Page(before.Editor.At.Page);
+  if (shown.Showing == before.Editor.Showing) {
+    AddStored(before, now, shown.Showing);
   } else {
-    AddStored(before, global.Pages.at(page), shown.Showing);
+    // What was stored is shared with the document, not kept twice.
+    AddStored(before, now == before.Editor.Typed ? now : Record(before.Editor.Typed), 0);
   }
   AddRest(before, global, shown.At);
   if (is_saved_) history_.MarkSaved();
@@ -72,12 +73,13 @@ const Step* StepRecorder::Undo(Global& global) {
   if (!before_) return nullptr;
   Moment before = std::move(*before_);
   before_.reset();
+  const Step* undone = nullptr;
   if (IsTyped(global, before.Editor)) {
     const std::size_t steps = StepsSinceTyped(before.Editor);
-    for (std::size_t step = 0; step < steps; ++step) history_.Undo(global);
+    for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
     if (steps == 0) AddStored(before, before.Editor.Typed, 0);
   }
-  return history_.NextUndo() == nullptr ? nullptr : &history_.Undo(global);
+  return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
 }
 
 const Step* StepRecorder::Redo(Global& global) {
@@ -87,12 +89,13 @@ const Step* StepRecorder::Redo(Global& global) {
 }
 
 std::optional<std::string> StepRecorder::UndoName(const Global& global, const Shown& shown) const {
-  std::size_t back = 0;
+  std::size_t followed = 0;
   if (IsTyped(global, shown)) {
-    back = StepsSinceTyped(shown);
-    if (back == 0) return EditName(shown.At.Page);
+    followed = StepsSinceTyped(shown);
+    if (followed == 0) return EditName(shown.At.Page);
   }
-  const Step* step = history_.StepBack(back);
+  const Step* next = history_.StepBack(followed);
+  const Step* step = next == nullptr && followed > 0 ? history_.StepBack(followed - 1) : next;
   return step == nullptr ? std::nullopt : std::optional(step->Name);
 }
 
