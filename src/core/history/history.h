@@ -12,10 +12,11 @@ namespace tavrel {
 /// Where somebody is writing.
 struct Place {
   int Page = 1;       ///< the page in the editor
-  int Link = 1;       ///< the row of the links grid in the entry fields
+  int Link = 1;       ///< the row of the links grid that the entry fields hold
   std::string Field;  ///< the name of the field with the caret
   int Anchor = 0;     ///< the character, from 0, at which the selection began
   int Caret = 0;      ///< the character, from 0, in front of which the caret stands
+  int Row = 1;        ///< the row of the links grid that is selected; 0: none
 };
 
 /// The pages and music links at a moment. It shares their bytes with the document.

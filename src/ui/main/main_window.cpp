@@ -168,7 +168,7 @@ void Main::ShowAt(const Place& place) {
   RefreshGrid2();
   LoadPage(place.Page);
   page_->ShowLink(grids_->LinkAt(place.Link));
-  grids_->SelectLink(place.Link);
+  if (place.Row > 0) grids_->SelectLink(place.Row);
   app_.State.CurrentLink = static_cast<std::int16_t>(place.Link);
   page_->ShowCaret(place);
 }

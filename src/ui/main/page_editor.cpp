@@ -63,7 +63,7 @@ Place PageEditor::CaretPlace(const QWidget& window) const {
   QWidget* field_with_caret = found == fields.end() ? ui_.Text1 : *found;
   const TextField& field = *FieldOf(field_with_caret);
   return {app_.State.CurrentPage, app_.State.CurrentLink, field_with_caret->objectName().toStdString(),
-          field.Anchor(), field.Caret()};
+          field.Anchor(), field.Caret(), ui_.MSFlexGrid1->Row()};
 }
 
 void PageEditor::ShowCaret(const Place& place) {
