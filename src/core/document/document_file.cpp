@@ -86,6 +86,28 @@ void ReadText(std::string_view text, Global& global, Damage damage) {
 
 }  // namespace
 
+DocumentLines LinesOf(std::string_view text) {
+  DocumentLines numbers;
+  LineReader lines(text);
+  bool is_behind_music_links = false;
+  for (int number = 1; !lines.AtEnd(); ++number) {
+    const StoredLine line = Split(lines.Next());
+    const int index = WholeValue(line.Index);
+    const int last = is_behind_music_links ? kLastReadPage : kLastMusicLink;
+    if (!is_behind_music_links && line.Index.empty()) {
+      is_behind_music_links = true;
+    } else if (index < 0 || index > last) {
+      numbers.Damaged = number;
+      break;
+    } else {
+      const auto entry = static_cast<std::size_t>(index);
+      (is_behind_music_links ? numbers.Pages.at(entry) : numbers.MusicLinks.at(entry)) = number;
+    }
+    if (lines.AtEnd() && !is_behind_music_links) numbers.Damaged = number;
+  }
+  return numbers;
+}
+
 void LoadDocument(Global& global) {
   const std::filesystem::path file = DocumentFile(global);
   const std::string text = ReadWholeFile(file);

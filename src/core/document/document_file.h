@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -31,6 +32,15 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
 /// The opposite of DocumentText. Throws RunTimeError, with nothing changed, if an index is out of range or
 /// the text ends before the empty line.
 void ReadDocumentText(std::string_view text, Global& global);
+
+/// The lines of a document file, from 1, that entries stand in; 0 for those that it does not have.
+struct DocumentLines {
+  std::array<int, 1001> Pages{};
+  std::array<int, 101> MusicLinks{};
+  int Damaged = 0;  ///< the line at which ReadDocumentText would throw
+};
+
+DocumentLines LinesOf(std::string_view text);
 
 /// Reads what can be read of a damaged document: every line that numbers a page or a music link.
 void SalvageDocumentText(std::string_view text, Global& global);

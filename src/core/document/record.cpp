@@ -22,7 +22,9 @@ Record& Record::operator+=(std::string_view more) {
 }
 
 void Record::Set(std::string bytes) {
-  if (!bytes.empty()) bytes_ = std::make_shared<std::string>(std::move(bytes));
+  if (bytes.empty()) return;
+  bytes.shrink_to_fit();  // records are kept for long
+  bytes_ = std::make_shared<std::string>(std::move(bytes));
 }
 
 }  // namespace tavrel

@@ -1,0 +1,202 @@
+#include "core/check/page_check.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "core/check/link_target.h"
+#include "core/check/page_parts.h"
+#include "core/text/file_names.h"
+#include "core/text/numbers.h"
+#include "core/text/plain_ascii.h"
+
+namespace tavrel {
+namespace {
+
+using Kind = LinkTarget::Kind;
+
+constexpr char32_t kLastOfLatin1 = 0xFF;
+
+/// A page is split at these, wherever they stand.
+constexpr std::array<std::string_view, 14> kTags = {
+    "<title>",  "</title>",    "<note>",      "</note>",   "<text>",    "</text>",  "<link>",
+    "</link>",  "<linktext>",  "</linktext>", "<linkto>",  "</linkto>", "<music>",  "</music>"};
+
+std::string Words(std::string_view words) {
+  return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
+}
+
+/// Looks at one page.
+class PageCheck {
+ public:
+  PageCheck(const Global& global, int page, const CodePage& code_page)
+      : global_(global),
+        page_(page),
+        code_page_(code_page),
+        parts_(PartsOf(global.Page(page))),
+        brackets_(BracketsOf(parts_.Text)) {}
+
+  PageReport Run() {
+    CheckTitle();
+    CheckContent(Field::Title, 0, parts_.Title);
+    CheckContent(Field::Text, 0, parts_.Text);
+    CheckBrackets();
+    CheckLinks();
+    CheckMusic();
+    return std::move(report_);
+  }
+
+ private:
+  Finding& Add(Field where, std::string sentence) {
+    Finding& finding = report_.Findings.emplace_back();
+    finding.Page = page_;
+    finding.Where = where;
+    finding.Sentence = std::move(sentence);
+    return finding;
+  }
+
+  void AddAt(Field where, int link, std::size_t position, std::size_t length, std::string sentence) {
+    Finding& finding = Add(where, std::move(sentence));
+    finding.Link = link;
+    finding.Position = position;
+    finding.Length = length;
+  }
+
+  void CheckTitle() {
+    if (parts_.Title.empty()) Add(Field::Title, "The page has no title, so the Notes menu shows its file name.");
+  }
+
+  /// What is wrong with any text, wherever it stands.
+  void CheckContent(Field where, int link, std::string_view content) {
+    const auto is_strange = [this](char c) { return code_page_.Character(c) > kLastOfLatin1; };
+    const auto strange = std::find_if(content.begin(), content.end(), is_strange);
+    if (strange != content.end()) {
+      const auto count = std::count_if(strange, content.end(), is_strange);
+      AddAt(where, link, static_cast<std::size_t>(strange - content.begin()), 1,
+            count == 1 ? "An iPod may not show one of the characters."
+                       : "An iPod may not show " + std::to_string(count) + " of the characters.");
+    }
+    if (content.find('<') == std::string_view::npos) return;
+    for (const std::string_view tag : kTags) {
+      const std::size_t position = content.find(tag);
+      if (position != std::string_view::npos)
+        AddAt(where, link, position, tag.size(), std::string(tag) + " cannot stand in a page.");
+    }
+  }
+
+  void CheckBrackets();
+  void CheckInlineLink(std::size_t index);
+  void CheckLinks();
+  void CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads, bool is_published);
+  void CheckMusic();
+  bool IsUsed(std::size_t link) const {
+    return link < parts_.PublishedLinks() || (brackets_.AreLinks && link < brackets_.Links.size());
+  }
+
+  const Global& global_;
+  int page_;
+  const CodePage& code_page_;
+  PageParts parts_;
+  Brackets brackets_;
+  PageReport report_;
+};
+
+void PageCheck::CheckBrackets() {
+  if (!brackets_.AreLinks) {
+    const std::size_t bracket = parts_.Text.find_first_of("<>");
+    if (bracket == std::string_view::npos) return;
+    const bool has_both = parts_.Text[bracket] == '>' && !brackets_.Links.empty();
+    AddAt(Field::Text, 0, bracket, 1,
+          has_both ? "The first > comes before the first <, so no words of the text are linked."
+                   : "The bracket links nothing; it is published as it stands.");
+    return;
+  }
+  for (std::size_t link = 0; link < brackets_.Links.size(); ++link) CheckInlineLink(link);
+  for (const std::size_t closing : brackets_.LoneClosings)
+    AddAt(Field::Text, 0, closing, 1, "The > ends no link.");
+}
+
+void PageCheck::CheckInlineLink(std::size_t index) {
+  const InlineLink& link = brackets_.Links[index];
+  const auto add = [&](std::string sentence) {
+    AddAt(Field::Text, 0, link.Position, link.Length, std::move(sentence));
+  };
+  if (!link.IsClosed) add("The < has no > behind it.");
+  const std::string number = std::to_string(index + 1);
+  if (index >= parts_.Links.size() || parts_.Links[index].Target.empty()) {
+    add(Words(link.Words) + " takes link " + number + ", which the page does not have.");
+    return;
+  }
+  const std::string_view words = TrimBlanks(link.Words);
+  const auto has_words = [words](const PageParts::Link& other) { return other.Text == words; };
+  if (words.empty() || has_words(parts_.Links[index])) return;
+  const auto other = std::find_if(parts_.Links.begin(), parts_.Links.end(), has_words);
+  if (other == parts_.Links.end()) return;
+  add(Words(link.Words) + " takes link " + number + ", but link " +
+      std::to_string(other - parts_.Links.begin() + 1) + " has these words.");
+}
+
+void PageCheck::CheckLinks() {
+  const std::size_t published = parts_.PublishedLinks();
+  for (std::size_t link = 0; link < parts_.Links.size(); ++link) {
+    const int row = static_cast<int>(link) + 1;
+    const PageParts::Link& parts = parts_.Links[link];
+    CheckContent(Field::LinkText, row, parts.Text);
+    if (!parts.Target.empty()) CheckTarget(Field::LinkTarget, row, parts.Target, TargetOf(global_, parts.Target), IsUsed(link));
+  }
+  if (published == parts_.Links.size()) return;
+  const std::size_t behind = parts_.Links.size() - published - 1;
+  const bool lacks_words = parts_.Links[published].Text.empty();
+  const std::string followers = behind == 0   ? "is"
+                                : behind == 1 ? "and the link behind it are"
+                                              : "and the " + std::to_string(behind) + " links behind it are";
+  AddAt(lacks_words ? Field::LinkText : Field::LinkTarget, static_cast<int>(published) + 1, 0, 0,
+        std::string("The link has no ") + (lacks_words ? "words" : "target") + ", so it " + followers +
+            " not in the list below the text.");
+}
+
+void PageCheck::CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads,
+                            bool is_published) {
+  if (leads.What == Kind::Page && is_published) report_.LeadsTo.push_back(leads.Number);
+  const std::string music = "Music link " + MusicLinkName(leads.Number);
+  const auto add = [&](std::string sentence) {
+    AddAt(where, row, 0, target.size(), std::move(sentence));
+    report_.Findings.back().StopsPublishing = leads.What == Kind::ImpossibleMusic && is_published;
+  };
+  switch (leads.What) {
+    case Kind::Page:
+    case Kind::Music:
+      return;
+    case Kind::EmptyPage:
+      return add("Page " + FormatPage(leads.Number) + " is empty.");
+    case Kind::NoPage:
+      return add("There can be no page " + Quoted(target) + ".");
+    case Kind::NotesMenu:
+      return add("The link leads to no page, but to the Notes menu.");
+    case Kind::EmptyMusic:
+      return add(music + " is empty, so the link leads to the Notes menu.");
+    case Kind::ImpossibleMusic:
+      return add("There can be no music link " + Quoted(target) +
+                 (is_published ? ". Publishing stops here." : "."));
+  }
+}
+
+void PageCheck::CheckMusic() {
+  CheckContent(Field::MusicText, 0, parts_.MusicText);
+  if (parts_.MusicText.empty()) return;
+  if (parts_.MusicLink.empty()) {
+    Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.");
+  } else {
+    CheckTarget(Field::MusicLink, 0, parts_.MusicLink, MusicTargetOf(global_, parts_.MusicLink), true);
+  }
+}
+
+}  // namespace
+
+PageReport CheckPage(const Global& global, int page, const CodePage& code_page) {
+  return PageCheck(global, page, code_page).Run();
+}
+
+}  // namespace tavrel
