@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/check/page_check.h"
+#include "core/ipod/device_limits.h"
 #include "core/text/numbers.h"
 #include "core/text/run_time_error.h"
 

@@ -9,9 +9,6 @@
 
 namespace tavrel {
 
-inline constexpr std::size_t kShownBytes = 4096;  ///< an iPod shows so much of a note, markup included
-inline constexpr int kMostNotes = 1000;           ///< an iPod shows so many notes in all
-
 /// Everything in the project that would go wrong if it were published with these choices, page by page.
 /// `other_notes` are on the iPod already.
 std::vector<Finding> CheckProject(const Global& global, const CodePage& code_page,
