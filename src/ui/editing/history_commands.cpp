@@ -24,8 +24,8 @@ std::optional<QString> ToName(const std::optional<std::string>& name) {
 
 }  // namespace
 
-HistoryCommands::HistoryCommands(App& app, Editor& editor, QWidget& window, QStatusBar& status_bar)
-    : app_(app), editor_(editor), window_(window), status_bar_(status_bar) {}
+HistoryCommands::HistoryCommands(App& app, Editor& editor, QStatusBar& status_bar)
+    : app_(app), editor_(editor), status_bar_(status_bar) {}
 
 void HistoryCommands::NameIn(const QMenu& menu, QAction& undo, QAction& redo) {
   On(app_.Control, &menu, &QMenu::aboutToShow, this, [this, &undo, &redo] {
@@ -68,7 +68,7 @@ void HistoryCommands::Show(const Place& place, const QString& told) {
 }
 
 TextField* HistoryCommands::FieldWithFocus() const {
-  return FieldOf(window_.focusWidget());
+  return FieldOf(editor_.ControlWithFocus());
 }
 
 std::optional<QString> HistoryCommands::UndoName() const {

@@ -10,7 +10,6 @@
 class QAction;
 class QMenu;
 class QStatusBar;
-class QWidget;
 
 namespace tavrel {
 
@@ -22,7 +21,7 @@ class HistoryCommands : public QObject {
   Q_OBJECT
 
  public:
-  HistoryCommands(App& app, Editor& editor, QWidget& window, QStatusBar& status_bar);
+  HistoryCommands(App& app, Editor& editor, QStatusBar& status_bar);
 
   /// Has the menu say, whenever it opens, what the two would do.
   void NameIn(const QMenu& menu, QAction& undo, QAction& redo);
@@ -39,7 +38,6 @@ class HistoryCommands : public QObject {
 
   App& app_;
   Editor& editor_;
-  QWidget& window_;
   QStatusBar& status_bar_;
 };
 

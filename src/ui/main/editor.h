@@ -2,6 +2,8 @@
 
 #include "core/history/step_recorder.h"
 
+class QWidget;
+
 namespace tavrel {
 
 /// The editor as the commands know it.
@@ -26,6 +28,8 @@ class Editor {
   /// Rewrites titles and notes of all rows of the pages grid.
   virtual void RefreshGrid2() = 0;
 
+  /// The control with the focus, also while the menu has it; null if there is none.
+  virtual QWidget* ControlWithFocus() const = 0;
   /// What the fields hold, and where the caret is.
   virtual Shown Now() const = 0;
   /// Shows the document as it is now, at a place in it.

@@ -28,7 +28,8 @@ constexpr qreal kTitleFont = 2.8;
 
 }  // namespace
 
-Main::Main(App& app) : app_(app), ui_(std::make_unique<Ui::Main>()), timer1_(new QTimer(this)) {
+Main::Main(App& app)
+    : app_(app), ui_(std::make_unique<Ui::Main>()), last_focus_(*this), timer1_(new QTimer(this)) {
   ui_->setupUi(this);
   timer1_->setObjectName("Timer1");
   timer1_->setInterval(kTimer1Interval);
@@ -159,8 +160,13 @@ std::string Main::TypedPage() const {
   return typed == shown_record_ ? app_.State.Page(app_.State.CurrentPage).Bytes() : typed;
 }
 
+QWidget* Main::ControlWithFocus() const {
+  QWidget* control = focusWidget();
+  return control == menuBar() ? last_focus_.Control() : control;
+}
+
 Shown Main::Now() const {
-  return {page_->CaretPlace(*this), TypedPage(), showing_};
+  return {page_->CaretPlace(ControlWithFocus()), TypedPage(), showing_};
 }
 
 void Main::ShowAt(const Place& place) {

@@ -7,6 +7,7 @@
 
 #include "core/document/page_record.h"
 #include "ui/app.h"
+#include "ui/controls/last_focus.h"
 #include "ui/main/editor.h"
 
 class QTimer;
@@ -41,6 +42,7 @@ class Main : public QMainWindow, public Editor {
   void UpdateGrid1() override;
   void UpdateGrid2() override;
   void RefreshGrid2() override;
+  QWidget* ControlWithFocus() const override;
   Shown Now() const override;
   void ShowAt(const Place& place) override;
   void RefreshMusicLinks() override;
@@ -103,6 +105,7 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<HoverOutline> outline_;
   std::unique_ptr<CommandSteps> steps_;
+  LastFocus last_focus_;
   QTimer* timer1_;
   std::string shown_record_;  ///< what the fields gave when the page was shown or stored
   std::size_t showing_ = 0;   ///< counts the pages shown

@@ -56,10 +56,9 @@ void PageEditor::RefreshMusicTargets() {
   ui_.Combo2->SetItems(music_links);
 }
 
-Place PageEditor::CaretPlace(const QWidget& window) const {
-  const QWidget* control = window.focusWidget();
+Place PageEditor::CaretPlace(const QWidget* control_with_focus) const {
   const auto fields = Fields();
-  const auto found = std::find(fields.begin(), fields.end(), control);
+  const auto found = std::find(fields.begin(), fields.end(), control_with_focus);
   QWidget* field_with_caret = found == fields.end() ? ui_.Text1 : *found;
   const TextField& field = *FieldOf(field_with_caret);
   return {app_.State.CurrentPage, app_.State.CurrentLink, field_with_caret->objectName().toStdString(),

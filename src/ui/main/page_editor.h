@@ -30,8 +30,8 @@ class PageEditor {
   /// Renews the music links in both lists; the pages in the first stay as they were listed.
   void RefreshMusicTargets();
 
-  /// Where the caret is, in the field of the window that has the focus or else in the body.
-  Place CaretPlace(const QWidget& window) const;
+  /// Where the caret is: in the field that has the focus, or else in the body.
+  Place CaretPlace(const QWidget* control_with_focus) const;
   /// Puts the caret there, and the focus.
   void ShowCaret(const Place& place);
 
