@@ -89,7 +89,8 @@ std::string HelpText() {
          "  --no-background-music  leave the note for the Now Playing screen when music is chosen\n"
          "  --overwrite            replace the project if there is one already\n"
          "\n"
-         "The exit status is 0 if all went well, 1 if check has found something, 2 if it could not be done.\n";
+         "The exit status is 0 if all went well, 1 if check has found something, 2 if it could not be "
+         "done.\n";
 }
 
 }  // namespace tavrel::notes

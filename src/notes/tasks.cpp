@@ -111,7 +111,8 @@ Outcome Import(const Arguments& arguments, Platform& platform) {
     return Outcome::Failed;
   }
   std::vector<fs::path> notes;
-  for (const FolderFile& note : ListFiles(folder, ".txt", platform.SystemCodePage())) notes.push_back(note.Name);
+  for (const FolderFile& note : ListFiles(folder, ".txt", platform.SystemCodePage()))
+    notes.push_back(note.Name);
   const auto global = std::make_unique<Global>();
   ImportNotes(*global, folder, notes, platform.SystemCodePage(), [](int) {});
   platform.WriteWholeFile(file, DocumentText(*global));

@@ -21,8 +21,8 @@ constexpr char32_t kLastOfLatin1 = 0xFF;
 
 /// A page is split at these, wherever they stand.
 constexpr std::array<std::string_view, 14> kTags = {
-    "<title>",  "</title>",    "<note>",      "</note>",   "<text>",    "</text>",  "<link>",
-    "</link>",  "<linktext>",  "</linktext>", "<linkto>",  "</linkto>", "<music>",  "</music>"};
+    "<title>", "</title>",   "<note>",      "</note>",  "<text>",    "</text>", "<link>",
+    "</link>", "<linktext>", "</linktext>", "<linkto>", "</linkto>", "<music>", "</music>"};
 
 std::string Words(std::string_view words) {
   return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
@@ -65,7 +65,8 @@ class PageCheck {
   }
 
   void CheckTitle() {
-    if (parts_.Title.empty()) Add(Field::Title, "The page has no title, so the Notes menu shows its file name.");
+    if (parts_.Title.empty())
+      Add(Field::Title, "The page has no title, so the Notes menu shows its file name.");
   }
 
   /// What is wrong with any text, wherever it stands.
@@ -144,7 +145,8 @@ void PageCheck::CheckLinks() {
     const int row = static_cast<int>(link) + 1;
     const PageParts::Link& parts = parts_.Links[link];
     CheckContent(Field::LinkText, row, parts.Text);
-    if (!parts.Target.empty()) CheckTarget(Field::LinkTarget, row, parts.Target, TargetOf(global_, parts.Target), IsUsed(link));
+    if (!parts.Target.empty())
+      CheckTarget(Field::LinkTarget, row, parts.Target, TargetOf(global_, parts.Target), IsUsed(link));
   }
   if (published == parts_.Links.size()) return;
   const std::size_t behind = parts_.Links.size() - published - 1;

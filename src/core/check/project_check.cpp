@@ -59,7 +59,8 @@ class ProjectCheck {
   void CheckLength(int page) {
     const std::size_t length = NoteText(global_, page, options_).size();
     if (length <= kShownBytes) return;
-    Add(page, Field::Page, "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.");
+    Add(page, Field::Page,
+        "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.");
   }
 
   void FindReachedPages() {

@@ -17,17 +17,17 @@ inline constexpr int kLastSetting = 20;     ///< settings are numbered 1 to 20
 
 /// The state that the windows share: the document in memory, the place in it and the preferences.
 struct Global {
-  std::array<Record, 1001> Pages;           ///< page records by number; an empty one is no page. Entries 0 and
-                                            ///< 1000 are no pages, but files may fill them; 1000 is never
-                                            ///< written.
-  std::array<Record, 101> MusicLinks;       ///< music link records by number; an empty one is no music link.
-                                            ///< Entry 0 is none; 100 is never written.
-  std::filesystem::path DocPath;            ///< bare file name of the open document; empty: none is open
-  std::int16_t CurrentPage = 1;             ///< the page in the editor
-  std::int16_t CurrentLink = 1;             ///< the row of the links grid in the entry fields
-  std::string PageClipboard;                ///< one copied page record
-  std::string FindText;                     ///< the text last searched for
-  std::filesystem::path PlanPath;           ///< bare file name of the current plan; empty: none
+  std::array<Record, 1001> Pages;      ///< page records by number; an empty one is no page. Entries 0 and
+                                       ///< 1000 are no pages, but files may fill them; 1000 is never
+                                       ///< written.
+  std::array<Record, 101> MusicLinks;  ///< music link records by number; an empty one is no music link.
+                                       ///< Entry 0 is none; 100 is never written.
+  std::filesystem::path DocPath;       ///< bare file name of the open document; empty: none is open
+  std::int16_t CurrentPage = 1;        ///< the page in the editor
+  std::int16_t CurrentLink = 1;        ///< the row of the links grid in the entry fields
+  std::string PageClipboard;           ///< one copied page record
+  std::string FindText;                ///< the text last searched for
+  std::filesystem::path PlanPath;      ///< bare file name of the current plan; empty: none
   std::array<std::string, kLastSetting + 1> Settings;
   bool UseSkin = false;                 ///< background pictures are shown
   std::filesystem::path ProgramFolder;  ///< full path of the folder with the program's own files

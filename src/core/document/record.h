@@ -14,11 +14,11 @@ class Record {
  public:
   Record() = default;
   // Wherever bytes are given, a record is meant.
-  Record(std::string bytes) { Set(std::move(bytes)); }                   // NOLINT(google-explicit-constructor)
-  Record(std::string_view bytes) : Record(std::string(bytes)) {}         // NOLINT(google-explicit-constructor)
-  Record(const char* bytes) : Record(std::string(bytes)) {}              // NOLINT(google-explicit-constructor)
-  operator const std::string&() const { return Bytes(); }                // NOLINT(google-explicit-constructor)
-  operator std::string_view() const { return Bytes(); }                  // NOLINT(google-explicit-constructor)
+  Record(std::string bytes) { Set(std::move(bytes)); }            // NOLINT(google-explicit-constructor)
+  Record(std::string_view bytes) : Record(std::string(bytes)) {}  // NOLINT(google-explicit-constructor)
+  Record(const char* bytes) : Record(std::string(bytes)) {}       // NOLINT(google-explicit-constructor)
+  operator const std::string&() const { return Bytes(); }         // NOLINT(google-explicit-constructor)
+  operator std::string_view() const { return Bytes(); }           // NOLINT(google-explicit-constructor)
 
   const std::string& Bytes() const;
   /// The bytes to change; other copies of the record keep theirs.

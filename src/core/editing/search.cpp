@@ -28,7 +28,7 @@ std::optional<Match> FindInPages(const Global& global, std::string_view wanted, 
 }
 
 int ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
-                    const CodePage& code_page) {
+                   const CodePage& code_page) {
   const TextSearch search(wanted, match_case, code_page);
   std::size_t room = kMostGrowth;
   int changed = 0;

@@ -26,6 +26,6 @@ std::optional<Match> FindInPages(const Global& global, std::string_view wanted, 
 /// replacements are compared as typed. A text is searched up to its 32,767th character, and replacing stops
 /// once it has made the document 20 million characters longer. Gives the number of pages changed.
 int ReplaceInPages(Global& global, std::string_view wanted, std::string_view replacement, bool match_case,
-                    const CodePage& code_page);
+                   const CodePage& code_page);
 
 }  // namespace tavrel

@@ -81,8 +81,9 @@ class History {
   void ForgetOldest();
 
   std::deque<Step> steps_;
-  std::size_t done_ = 0;      ///< so many steps are not taken back
-  std::ptrdiff_t saved_ = 0;  ///< so many were done when the document was saved; negative: it cannot be reached
+  std::size_t done_ = 0;  ///< so many steps are not taken back
+  std::ptrdiff_t saved_ =
+      0;  ///< so many were done when the document was saved; negative: it cannot be reached
   std::size_t bytes_ = 0;
 };
 

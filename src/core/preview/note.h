@@ -9,8 +9,8 @@ namespace tavrel {
 
 /// A link of a note as the device shows it.
 struct NoteLink {
-  std::string Address;     ///< a note's file name, "ipod:music?..." or "\"
-  std::size_t Start = 0;   ///< in the note's text
+  std::string Address;    ///< a note's file name, "ipod:music?..." or "\"
+  std::size_t Start = 0;  ///< in the note's text
   std::size_t Length = 0;
 };
 
@@ -25,7 +25,8 @@ struct Note {
 /// Reads a note file's bytes as the device does: its first 4,096 bytes, tags in either case. <br> and <p> end
 /// lines as line ends do; <title> and <meta> do not show, nor the line that holds nothing else; other tags do
 /// not show either. A "<" without ">" is a character like any other. What the device does with broken
-/// markup is not documented; a link ends at the next link or at the end of the note if it does not end before.
+/// markup is not documented; a link ends at the next link or at the end of the note if it does not end
+/// before.
 Note ReadNote(std::string_view bytes);
 
 }  // namespace tavrel

@@ -74,9 +74,9 @@ void NoteScreen::TurnBack() {
 }
 
 std::size_t NoteScreen::LineOf(std::size_t link) const {
-  const auto behind = std::upper_bound(
-      lines_.begin(), lines_.end(), note_.Links[link].Start,
-      [](std::size_t start, const ScreenLine& line) { return start < line.Start; });
+  const auto behind =
+      std::upper_bound(lines_.begin(), lines_.end(), note_.Links[link].Start,
+                       [](std::size_t start, const ScreenLine& line) { return start < line.Start; });
   return behind == lines_.begin() ? 0 : static_cast<std::size_t>(behind - lines_.begin()) - 1;
 }
 

@@ -115,7 +115,8 @@ QString BodyField::SelectedText() const {
 }
 
 bool BodyField::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event))) return false;
+  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event)))
+    return false;
   return QPlainTextEdit::event(event);
 }
 

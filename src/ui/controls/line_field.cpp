@@ -57,7 +57,8 @@ void LineField::SetCaret(int anchor, int caret) {
 }
 
 bool LineField::event(QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event))) return false;
+  if (event->type() == QEvent::ShortcutOverride && IsUndoOrRedo(*static_cast<QKeyEvent*>(event)))
+    return false;
   return QLineEdit::event(event);
 }
 

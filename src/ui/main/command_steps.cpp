@@ -13,8 +13,7 @@ CommandSteps::~CommandSteps() {
 }
 
 void CommandSteps::Begins() {
-  if (app_.State.IsDocumentOpen() && app_.State.IsDocumentShown)
-    app_.Steps.Begin(app_.State, editor_.Now());
+  if (app_.State.IsDocumentOpen() && app_.State.IsDocumentShown) app_.Steps.Begin(app_.State, editor_.Now());
 }
 
 void CommandSteps::Ends() {

@@ -170,6 +170,8 @@ Shown Main::Now() const {
 }
 
 void Main::ShowAt(const Place& place) {
+  // The field that loses the focus must not write into the page that comes.
+  page_->FocusOn(place);
   app_.State.CurrentPage = static_cast<std::int16_t>(place.Page);
   RefreshGrid2();
   LoadPage(place.Page);

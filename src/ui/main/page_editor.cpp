@@ -62,15 +62,22 @@ Place PageEditor::CaretPlace(const QWidget* control_with_focus) const {
   QWidget* field_with_caret = found == fields.end() ? ui_.Text1 : *found;
   const TextField& field = *FieldOf(field_with_caret);
   return {app_.State.CurrentPage, app_.State.CurrentLink, field_with_caret->objectName().toStdString(),
-          field.Anchor(), field.Caret(), ui_.MSFlexGrid1->Row()};
+          field.Anchor(),         field.Caret(),          ui_.MSFlexGrid1->Row()};
+}
+
+void PageEditor::FocusOn(const Place& place) {
+  FieldAt(place).setFocus();
 }
 
 void PageEditor::ShowCaret(const Place& place) {
+  FieldOf(&FieldAt(place))->SetCaret(place.Anchor, place.Caret);
+}
+
+QWidget& PageEditor::FieldAt(const Place& place) const {
   for (QWidget* control : Fields()) {
-    if (control->objectName().toStdString() != place.Field) continue;
-    FieldOf(control)->SetCaret(place.Anchor, place.Caret);
-    control->setFocus();
+    if (control->objectName().toStdString() == place.Field) return *control;
   }
+  return *ui_.Text1;
 }
 
 std::array<QWidget*, 7> PageEditor::Fields() const {

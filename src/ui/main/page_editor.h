@@ -32,7 +32,9 @@ class PageEditor {
 
   /// Where the caret is: in the field that has the focus, or else in the body.
   Place CaretPlace(const QWidget* control_with_focus) const;
-  /// Puts the caret there, and the focus.
+  /// Gives the focus to the field of a place.
+  void FocusOn(const Place& place);
+  /// Puts the caret of that field there.
   void ShowCaret(const Place& place);
 
   /// What the fields hold, links apart.
@@ -42,6 +44,7 @@ class PageEditor {
 
  private:
   std::array<QWidget*, 7> Fields() const;
+  QWidget& FieldAt(const Place& place) const;
 
   App& app_;
   Ui::Main& ui_;

@@ -105,7 +105,8 @@ void Planner::Command1_Click() {
   const Plan plan = ShownPlan();
   if (!CanInsertPlan(plan)) return;
   if (!app_.Messages.Show(main_window_, messages::PlanOverwritesPages(PlanTop(plan)))) return;
-  app_.Steps.Name(tr("Insert plan at %1").arg(QString::fromStdString(FormatPage(PlanTop(plan)))).toStdString());
+  app_.Steps.Name(
+      tr("Insert plan at %1").arg(QString::fromStdString(FormatPage(PlanTop(plan)))).toStdString());
   InsertPlan(plan, app_.State);
   editor_.RefreshGrid2();
   editor_.LoadPage(app_.State.CurrentPage);

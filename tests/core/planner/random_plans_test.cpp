@@ -1,6 +1,6 @@
+#include <algorithm>
 #include <array>
 #include <gtest/gtest.h>
-#include <algorithm>
 #include <memory>
 #include <random>
 #include <string>

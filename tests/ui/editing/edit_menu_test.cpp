@@ -98,8 +98,7 @@ TEST_F(EditMenuTest, TextIsPastedAndTheFontChosenWithKeysAlone) {
   EXPECT_EQ(Body().Bytes(), "zzone");
   OpenWithKeys(Body());
   // What was pasted can be undone, so the menu begins with that.
-  PressInMenu(
-      {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return});
+  PressInMenu({Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return});
   EXPECT_EQ(Body().font().pointSize(), 8);
 }
 

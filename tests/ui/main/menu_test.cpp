@@ -47,8 +47,9 @@ TEST_F(MenuTest, TheSubmenusOfEditHoldTheirEntriesInOrder) {
 TEST_F(MenuTest, EditHoldsItsSubmenusAndCommands) {
   QStringList captions = Captions("EditMenu");
   captions.removeAll("-");
-  EXPECT_EQ(captions, (QStringList{"Undo", "Redo", "Page", "Link", "Text", "Font", "Music Editor",
-                                   "Project planner", "Block copy", "Block clear", "Block Delete", "Block insert"}));
+  EXPECT_EQ(captions,
+            (QStringList{"Undo", "Redo", "Page", "Link", "Text", "Font", "Music Editor", "Project planner",
+                         "Block copy", "Block clear", "Block Delete", "Block insert"}));
 }
 
 TEST_F(MenuTest, ShortcutsAreNotUsedTwice) {
