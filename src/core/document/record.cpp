@@ -21,6 +21,10 @@ Record& Record::operator+=(std::string_view more) {
   return *this;
 }
 
+void Record::Update(std::string bytes) {
+  if (Bytes() != bytes) *this = Record(std::move(bytes));
+}
+
 void Record::Set(std::string bytes) {
   if (bytes.empty()) return;
   bytes.shrink_to_fit();  // records are kept for long

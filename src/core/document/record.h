@@ -29,6 +29,10 @@ class Record {
   std::size_t find(std::string_view text) const { return Bytes().find(text); }
   void clear() { bytes_.reset(); }
   Record& operator+=(std::string_view more);
+  /// Takes these bytes. If they are the same, copies go on sharing them.
+  void Update(std::string bytes);
+  /// Whether both have the very same bytes, not only equal ones.
+  bool Shares(const Record& other) const { return bytes_ == other.bytes_; }
   Record& operator+=(char more) { return *this += std::string_view(&more, 1); }
 
   friend bool operator==(const Record& one, const Record& other) {

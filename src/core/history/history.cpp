@@ -1,6 +1,8 @@
 #include "core/history/history.h"
 
 #include <algorithm>
+#include <string>
+#include <unordered_set>
 #include <utility>
 
 namespace tavrel {
@@ -17,16 +19,51 @@ std::vector<Change> Changes(const RecordArray& before, const RecordArray& after)
   return changes;
 }
 
-/// A record is kept before or after the change; what the document holds itself is not counted.
-std::size_t BytesOf(const std::vector<Change>& changes) {
+using Side = Record Change::*;
+
+/// The bytes of the records of one side that the other does not have. Records that have only moved are the
+/// document's own.
+std::size_t BytesOfSide(const std::vector<Change>& changes, Side side, Side other) {
+  std::unordered_set<const std::string*> others;
+  for (const Change& change : changes) others.insert(&(change.*other).Bytes());
   std::size_t bytes = 0;
   for (const Change& change : changes)
-    bytes += sizeof change + std::max(change.Before.size(), change.After.size());
+    if (!others.contains(&(change.*side).Bytes())) bytes += (change.*side).size();
   return bytes;
+}
+
+/// While a step is done it keeps the records from before; while it is taken back, those from after.
+std::size_t BytesOf(const std::vector<Change>& changes) {
+  return changes.size() * sizeof(Change) + std::max(BytesOfSide(changes, &Change::Before, &Change::After),
+                                                    BytesOfSide(changes, &Change::After, &Change::Before));
 }
 
 std::size_t BytesOf(const Step& step) {
   return sizeof step + BytesOf(step.Pages) + BytesOf(step.MusicLinks);
+}
+
+std::vector<Change>::iterator Find(std::vector<Change>& changes, int number) {
+  return std::find_if(changes.begin(), changes.end(),
+                      [number](const Change& change) { return change.Number == number; });
+}
+
+/// Makes a change that was made before or after the others of a step one of them.
+void PutBefore(const Change& earlier, std::vector<Change>& changes) {
+  const auto found = Find(changes, earlier.Number);
+  if (found == changes.end()) {
+    changes.push_back(earlier);
+  } else {
+    found->Before = earlier.Before;
+  }
+}
+
+void PutBehind(const Change& later, std::vector<Change>& changes) {
+  const auto found = Find(changes, later.Number);
+  if (found == changes.end()) {
+    changes.push_back(later);
+  } else {
+    found->After = later.After;
+  }
 }
 
 }  // namespace
@@ -48,10 +85,26 @@ void History::Start() {
 
 void History::Add(Step step) {
   ForgetUndone();
+  for (const Change& change : std::exchange(head_, {})) PutBefore(change, step.Pages);
   bytes_ += BytesOf(step);
   steps_.push_back(std::move(step));
   ++done_;
   while (bytes_ > kMostBytes && steps_.size() > 1) ForgetOldest();
+}
+
+void History::Amend(const Change& change) {
+  if (steps_.empty()) {
+    PutBehind(change, head_);
+    return;
+  }
+  Step& step = done_ > 0 ? steps_[done_ - 1] : steps_.front();
+  bytes_ -= BytesOf(step);
+  if (done_ > 0) {
+    PutBehind(change, step.Pages);
+  } else {
+    PutBefore(change, step.Pages);
+  }
+  bytes_ += BytesOf(step);
 }
 
 void History::ForgetUndone() {

@@ -61,6 +61,10 @@ class History {
   /// together keep more than kMostBytes, but never the newest.
   void Add(Step step);
 
+  /// Takes in a change that is no step, as when a page that nobody has touched is stored in another order. It
+  /// goes with the last step, or else with the next one.
+  void Amend(const Change& change);
+
   /// The document has been saved as it stands.
   void MarkSaved() { saved_ = static_cast<std::ptrdiff_t>(done_); }
   bool IsSaved() const { return saved_ == static_cast<std::ptrdiff_t>(done_); }
@@ -81,7 +85,8 @@ class History {
   void ForgetOldest();
 
   std::deque<Step> steps_;
-  std::size_t done_ = 0;  ///< so many steps are not taken back
+  std::vector<Change> head_;  ///< what has changed before the first step
+  std::size_t done_ = 0;      ///< so many steps are not taken back
   std::ptrdiff_t saved_ =
       0;  ///< so many were done when the document was saved; negative: it cannot be reached
   std::size_t bytes_ = 0;

@@ -35,15 +35,28 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
   if (!before_) return;
   Moment before = std::move(*before_);
   before_.reset();
+  const Step changed = Difference(before.Document, global);
   const Record& now = global.Page(before.Editor.At.Page);
-  if (shown.Showing == before.Editor.Showing) {
-    AddStored(before, now, shown.Showing);
+  if (IsOnlyRewritten(before, changed)) {
+    history_.Amend(changed.Pages.front());
   } else {
-    // What was stored is shared with the document, not kept twice.
-    AddStored(before, now == before.Editor.Typed ? now : Record(before.Editor.Typed), 0);
+    if (shown.Showing == before.Editor.Showing) {
+      AddStored(before, now, shown.Showing);
+    } else {
+      // What was stored is shared with the document, not kept twice.
+      AddStored(before, now == before.Editor.Typed ? now : Record(before.Editor.Typed), 0);
+    }
+    AddRest(before, global, shown.At);
   }
-  AddRest(before, global, shown.At);
   if (is_saved_) history_.MarkSaved();
+}
+
+/// Whether all that the command did was to store a page as the editor writes it, without anything typed.
+bool StepRecorder::IsOnlyRewritten(const Moment& before, const Step& changed) const {
+  const Shown& editor = before.Editor;
+  if (changed.Pages.size() != 1 || !changed.MusicLinks.empty() || editor.Rewritten.empty()) return false;
+  const Change& change = changed.Pages.front();
+  return change.Number == editor.At.Page && change.Before == editor.Typed && change.After == editor.Rewritten;
 }
 
 /// Makes storing the page that was in the fields a step of its own.
@@ -69,8 +82,8 @@ void StepRecorder::AddRest(const Moment& before, const Global& global, const Pla
   history_.Add(std::move(step));
 }
 
-const Step* StepRecorder::Undo(Global& global) {
-  if (!before_) return nullptr;
+const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>& with_redo) {
+  if (!before_ || !UndoName(global, before_->Editor)) return nullptr;
   Moment before = std::move(*before_);
   before_.reset();
   const Step* undone = nullptr;
@@ -79,7 +92,19 @@ const Step* StepRecorder::Undo(Global& global) {
     for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
     if (steps == 0) AddStored(before, before.Editor.Typed, 0);
   }
+  if (with_redo && *with_redo != before.Editor.Typed)
+    undone = &AddTakenBack(global, before.Editor, *with_redo);
   return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
+}
+
+/// Keeps typing that a field has taken back, as a step that is taken back.
+const Step& StepRecorder::AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo) {
+  history_.Add({.Name = EditName(shown.At.Page),
+                .Pages = {{shown.At.Page, shown.Typed, with_redo}},
+                .MusicLinks = {},
+                .Before = shown.At,
+                .After = shown.At});
+  return history_.Undo(global);
 }
 
 const Step* StepRecorder::Redo(Global& global) {
@@ -110,6 +135,9 @@ std::size_t StepRecorder::StepsSinceTyped(const Shown& shown) const {
     const Step* step = history_.StepBack(count);
     if (step == nullptr || step->Showing != shown.Showing) return 0;
     if (step->Pages.front().Before == shown.Typed) return count + 1;
+    const Step* older = history_.StepBack(count + 1);
+    const bool is_first = older == nullptr || older->Showing != shown.Showing;
+    if (is_first && shown.AtFirst == shown.Typed) return count + 1;
   }
 }
 

@@ -13,8 +13,10 @@ namespace tavrel {
 /// What the editor shows at a moment.
 struct Shown {
   Place At;
-  std::string Typed;        ///< the page's record as it would be if all that is typed were stored
-  std::size_t Showing = 0;  ///< another number each time that a page is brought into the fields
+  std::string Typed;           ///< the page's record as it would be if all that is typed were stored
+  std::size_t Showing = 0;     ///< another number each time that a page is brought into the fields
+  std::string Rewritten = {};  ///< what storing makes of a page that nobody has touched
+  std::string AtFirst = {};    ///< what storing would have made of it when it was brought into the fields
 };
 
 /// Records what the commands do to the document, by looking at it before and after each of them. What was
@@ -36,8 +38,9 @@ class StepRecorder {
   void Name(std::string name) { name_ = std::move(name); }
 
   /// Take back and make again a step, as commands. Null if there is none. Typing that is not stored is taken
-  /// back first, as a step; it leaves nothing to be made again.
-  const Step* Undo(Global& global);
+  /// back first, as a step; it leaves nothing to be made again. `with_redo` is the page as it would be if the
+  /// fields' own redo had made all typing again, which they cannot once a step has shown a page.
+  const Step* Undo(Global& global, const std::optional<std::string>& with_redo = {});
   const Step* Redo(Global& global);
 
   /// The names of the steps that they would take; nothing if there are none.
@@ -54,7 +57,9 @@ class StepRecorder {
     Shown Editor;
   };
 
+  bool IsOnlyRewritten(const Moment& before, const Step& changed) const;
   void AddStored(Moment& before, const Record& stored, std::size_t showing);
+  const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);
   void AddRest(const Moment& before, const Global& global, const Place& after);
   std::size_t StepsSinceTyped(const Shown& shown) const;
 

@@ -7,8 +7,12 @@
 namespace tavrel {
 
 void ProgramControl::Run(const std::function<void()>& handler) noexcept {
+  RunAside([this, &handler] { RunWatched(handler); });
+}
+
+void ProgramControl::RunAside(const std::function<void()>& handler) noexcept {
   try {
-    RunWatched(handler);
+    handler();
   } catch (const std::exception& error) {
     Fail(error);
   } catch (...) {

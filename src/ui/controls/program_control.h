@@ -6,6 +6,8 @@
 #include <functional>
 #include <type_traits>
 
+class QTimer;
+
 namespace tavrel {
 
 /// Is told of each command of the program: of every handler but those that run while another one does.
@@ -24,6 +26,9 @@ class ProgramControl {
 
   /// Runs a handler. An error that it does not handle goes to Fail; none passes through the toolkit.
   void Run(const std::function<void()>& handler) noexcept;
+
+  /// The same for what is no command and changes no document: the watch is not told.
+  void RunAside(const std::function<void()>& handler) noexcept;
 
   /// Null for none.
   void SetWatch(CommandWatch* watch) { watch_ = watch; }
@@ -54,11 +59,17 @@ void Handle(ProgramControl& control, const Handler& handler, const Arguments&...
   }
 }
 
-/// Runs `handler`, a function of the signal's arguments or of none, under `control` at every `signal`.
+/// Runs `handler`, a function of the signal's arguments or of none, under `control` at every `signal`. Timers
+/// give no commands.
 template <typename Sender, typename Signal, typename Handler>
 void On(ProgramControl& control, const Sender* sender, Signal signal, QObject* receiver, Handler handler) {
-  QObject::connect(sender, signal, receiver,
-                   [&control, handler](const auto&... arguments) { Handle(control, handler, arguments...); });
+  if constexpr (std::is_same_v<Sender, QTimer>) {
+    QObject::connect(sender, signal, receiver, [&control, handler] { control.RunAside(handler); });
+  } else {
+    QObject::connect(sender, signal, receiver, [&control, handler](const auto&... arguments) {
+      Handle(control, handler, arguments...);
+    });
+  }
 }
 
 }  // namespace tavrel

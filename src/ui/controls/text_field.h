@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 class QKeyEvent;
 class QWidget;
 
@@ -13,6 +15,7 @@ class TextField {
   /// Whether there is typing to take back, or to make again.
   virtual bool HasUndo() const = 0;
   virtual bool HasRedo() const = 0;
+  virtual std::string Bytes() const = 0;
   virtual void Undo() = 0;
   virtual void Redo() = 0;
 

@@ -44,18 +44,18 @@ void HistoryCommands::NameIn(const QMenu& menu, QAction& undo, QAction& redo) {
 }
 
 void HistoryCommands::EditUndo_Click() {
-  TextField* field = FieldWithFocus();
-  if (field != nullptr && field->HasUndo()) {
-    field->Undo();
-  } else if (const Step* step = app_.Steps.Undo(app_.State)) {
+  if (QWidget* control = FieldToUndo()) {
+    control->setFocus();
+    FieldOf(control)->Undo();
+  } else if (const Step* step = app_.Steps.Undo(app_.State, editor_.TypedWithRedo())) {
     Show(step->Before, tr("Undone: %1").arg(QString::fromStdString(step->Name)));
   }
 }
 
 void HistoryCommands::EditRedo_Click() {
-  TextField* field = FieldWithFocus();
-  if (field != nullptr && field->HasRedo()) {
-    field->Redo();
+  if (QWidget* control = editor_.FieldWithRedo()) {
+    control->setFocus();
+    FieldOf(control)->Redo();
   } else if (const Step* step = app_.Steps.Redo(app_.State)) {
     Show(step->After, tr("Redone: %1").arg(QString::fromStdString(step->Name)));
   }
@@ -67,19 +67,21 @@ void HistoryCommands::Show(const Place& place, const QString& told) {
                           kToldFor);
 }
 
-TextField* HistoryCommands::FieldWithFocus() const {
-  return FieldOf(editor_.ControlWithFocus());
+QWidget* HistoryCommands::FieldToUndo() const {
+  QWidget* control = editor_.ControlWithFocus();
+  const TextField* field = FieldOf(control);
+  if (field != nullptr && field->HasUndo()) return control;
+  // A step that shows a page would throw such words away.
+  return editor_.FieldWithUnheldWords();
 }
 
 std::optional<QString> HistoryCommands::UndoName() const {
-  const TextField* field = FieldWithFocus();
-  if (field != nullptr && field->HasUndo()) return tr("typing");
+  if (FieldToUndo() != nullptr) return tr("typing");
   return ToName(app_.Steps.UndoName(app_.State, editor_.Now()));
 }
 
 std::optional<QString> HistoryCommands::RedoName() const {
-  const TextField* field = FieldWithFocus();
-  if (field != nullptr && field->HasRedo()) return tr("typing");
+  if (editor_.FieldWithRedo() != nullptr) return tr("typing");
   return ToName(app_.Steps.RedoName(app_.State, editor_.Now()));
 }
 

@@ -10,11 +10,11 @@
 class QAction;
 class QMenu;
 class QStatusBar;
+class QWidget;
 
 namespace tavrel {
 
 class Editor;
-class TextField;
 
 /// Undo and Redo: of what is typed in the field with the focus, and else of what the commands have done.
 class HistoryCommands : public QObject {
@@ -31,7 +31,7 @@ class HistoryCommands : public QObject {
   void EditRedo_Click();
 
  private:
-  TextField* FieldWithFocus() const;
+  QWidget* FieldToUndo() const;
   std::optional<QString> UndoName() const;
   std::optional<QString> RedoName() const;
   void Show(const Place& place, const QString& told);

@@ -99,7 +99,8 @@ void MusicEditor::Text1_KeyPress() {
 }
 
 void MusicEditor::Command1_Click() {
-  for (int link = 1; link <= kLastMusicLink; ++link) app_.State.MusicLink(link) = BuildMusicLink(Row(link));
+  for (int link = 1; link <= kLastMusicLink; ++link)
+    app_.State.MusicLink(link).Update(BuildMusicLink(Row(link)));
   accept();
 }
 

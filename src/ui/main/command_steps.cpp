@@ -13,11 +13,13 @@ CommandSteps::~CommandSteps() {
 }
 
 void CommandSteps::Begins() {
-  if (app_.State.IsDocumentOpen() && app_.State.IsDocumentShown) app_.Steps.Begin(app_.State, editor_.Now());
+  is_recorded_ = app_.State.IsDocumentOpen() && app_.State.IsDocumentShown;
+  if (is_recorded_) app_.Steps.Begin(app_.State, editor_.Now());
 }
 
 void CommandSteps::Ends() {
-  if (app_.State.IsDocumentOpen()) app_.Steps.End(app_.State, editor_.Now());
+  if (is_recorded_)
+    app_.Steps.End(app_.State, {.At = editor_.At(), .Typed = {}, .Showing = editor_.Showing()});
 }
 
 }  // namespace tavrel

@@ -19,6 +19,7 @@ class CommandSteps : public CommandWatch {
  private:
   App& app_;
   const Editor& editor_;
+  bool is_recorded_ = false;
 };
 
 }  // namespace tavrel

@@ -6,6 +6,17 @@
 #include "ui_main_window.h"
 
 namespace tavrel {
+namespace {
+
+/// Keys, and behind them those that the system has for the same.
+QList<QKeySequence> With(QKeySequence::StandardKey same, QList<QKeySequence> keys) {
+  for (const QKeySequence& key : QKeySequence::keyBindings(same)) {
+    if (!keys.contains(key)) keys << key;
+  }
+  return keys;
+}
+
+}  // namespace
 
 Commands::Commands(App& app, Ui::Main& ui, Editor& editor, SkinPictures& skins, QWidget* window)
     : app_(app),
@@ -51,8 +62,10 @@ void Commands::ConnectFileMenu() {
 void Commands::ConnectHistory() {
   Connect(ui_.EditUndo, history_, &HistoryCommands::EditUndo_Click);
   Connect(ui_.EditRedo, history_, &HistoryCommands::EditRedo_Click);
-  // People bring either key from other programs.
-  ui_.EditRedo->setShortcuts({QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")});
+  // People bring the keys from other programs, and systems have their own.
+  ui_.EditUndo->setShortcuts(With(QKeySequence::Undo, {QKeySequence("Ctrl+Z")}));
+  ui_.EditRedo->setShortcuts(
+      With(QKeySequence::Redo, {QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}));
   history_.NameIn(*ui_.EditMenu, *ui_.EditUndo, *ui_.EditRedo);
 }
 

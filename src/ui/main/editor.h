@@ -1,5 +1,8 @@
 #pragma once
 
+#include <optional>
+#include <string>
+
 #include "core/history/step_recorder.h"
 
 class QWidget;
@@ -30,8 +33,19 @@ class Editor {
 
   /// The control with the focus, also while the menu has it; null if there is none.
   virtual QWidget* ControlWithFocus() const = 0;
-  /// What the fields hold, and where the caret is.
+  /// Where the caret is, and another number each time that a page is shown.
+  virtual Place At() const = 0;
+  virtual std::size_t Showing() const = 0;
+  /// The same with what the fields hold.
   virtual Shown Now() const = 0;
+  /// The current page's record as it would be if the fields' own redo made all typing again; nothing if they
+  /// have none.
+  virtual std::optional<std::string> TypedWithRedo() = 0;
+  /// A field with words that no record can hold yet and that its own undo can take back: those of a link
+  /// without a target, or music without a text. Null if there is none.
+  virtual QWidget* FieldWithUnheldWords() const = 0;
+  /// A field whose own redo can make typing again, the one with the focus first; null if there is none.
+  virtual QWidget* FieldWithRedo() const = 0;
   /// Shows the document as it is now, at a place in it.
   virtual void ShowAt(const Place& place) = 0;
 

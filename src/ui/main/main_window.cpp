@@ -117,13 +117,14 @@ void Main::LoadPage(int page) {
   page_->ShowLink(fields.Links.front());
   app_.State.CurrentLink = 1;
   grids_->SelectPage(page);
-  shown_record_ = RecordOfFields();
+  first_record_ = RecordOfFields();
+  shown_record_ = first_record_;
   ++showing_;
 }
 
 void Main::SavePage() {
   UpdateGrid2();
-  app_.State.Page(app_.State.CurrentPage) = BuildPage(StoredFields(), app_.CodePageInUse());
+  app_.State.Page(app_.State.CurrentPage).Update(BuildPage(StoredFields(), app_.CodePageInUse()));
   shown_record_ = app_.State.Page(app_.State.CurrentPage);
   UpdateGrid2();
   MoveFocusToBody();
@@ -165,8 +166,34 @@ QWidget* Main::ControlWithFocus() const {
   return control == menuBar() ? last_focus_.Control() : control;
 }
 
+Place Main::At() const {
+  return page_->CaretPlace(ControlWithFocus());
+}
+
 Shown Main::Now() const {
-  return {page_->CaretPlace(ControlWithFocus()), TypedPage(), showing_};
+  const std::string& record = app_.State.Page(app_.State.CurrentPage);
+  std::string typed = RecordOfFields();
+  const bool is_untouched = typed == shown_record_;
+  return {.At = At(),
+          .Typed = is_untouched ? record : typed,
+          .Showing = showing_,
+          .Rewritten = is_untouched && typed != record ? typed : std::string(),
+          .AtFirst = first_record_};
+}
+
+std::optional<std::string> Main::TypedWithRedo() {
+  if (FieldWithRedo() == nullptr) return std::nullopt;
+  std::string typed;
+  page_->WithRedo([&] { typed = TypedPage(); });
+  return typed;
+}
+
+QWidget* Main::FieldWithUnheldWords() const {
+  return page_->FieldWithUnheldWords();
+}
+
+QWidget* Main::FieldWithRedo() const {
+  return page_->FieldWithRedo(ControlWithFocus());
 }
 
 void Main::ShowAt(const Place& place) {

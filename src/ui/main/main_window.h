@@ -3,6 +3,7 @@
 #include <QMainWindow>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "core/document/page_record.h"
@@ -43,7 +44,12 @@ class Main : public QMainWindow, public Editor {
   void UpdateGrid2() override;
   void RefreshGrid2() override;
   QWidget* ControlWithFocus() const override;
+  Place At() const override;
+  std::size_t Showing() const override { return showing_; }
   Shown Now() const override;
+  std::optional<std::string> TypedWithRedo() override;
+  QWidget* FieldWithUnheldWords() const override;
+  QWidget* FieldWithRedo() const override;
   void ShowAt(const Place& place) override;
   void RefreshMusicLinks() override;
   void ShowControls() override;
@@ -107,7 +113,8 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<CommandSteps> steps_;
   LastFocus last_focus_;
   QTimer* timer1_;
-  std::string shown_record_;  ///< what the fields gave when the page was shown or stored
+  std::string first_record_;  ///< what the fields gave when the page was shown
+  std::string shown_record_;  ///< what they gave when it was shown or stored
   std::size_t showing_ = 0;   ///< counts the pages shown
 };
 

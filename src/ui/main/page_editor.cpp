@@ -3,6 +3,8 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
@@ -71,6 +73,38 @@ void PageEditor::FocusOn(const Place& place) {
 
 void PageEditor::ShowCaret(const Place& place) {
   FieldOf(&FieldAt(place))->SetCaret(place.Anchor, place.Caret);
+}
+
+void PageEditor::WithRedo(const std::function<void()>& look) {
+  std::vector<std::pair<TextField*, std::string>> changed;
+  for (QWidget* control : Fields()) {
+    TextField* field = FieldOf(control);
+    if (field->HasRedo()) changed.emplace_back(field, field->Bytes());
+    while (field->HasRedo()) field->Redo();
+  }
+  look();
+  for (const auto& [field, bytes] : changed) {
+    while (field->HasUndo() && field->Bytes() != bytes) field->Undo();
+  }
+}
+
+QWidget* PageEditor::FieldWithUnheldWords() const {
+  const Link link = TypedLink();
+  if (!link.Text.empty() && link.Target.empty() && ui_.Text5->HasUndo()) return ui_.Text5;
+  const bool lacks_text = TrimBlanks(ui_.Text6->Bytes()).empty();
+  const bool has_music = !TrimBlanks(ui_.Combo2->Bytes()).empty();
+  return has_music && lacks_text && ui_.Combo2->Field().HasUndo() ? ui_.Combo2 : nullptr;
+}
+
+QWidget* PageEditor::FieldWithRedo(QWidget* first) const {
+  const auto has_redo = [](QWidget* control) {
+    const TextField* field = FieldOf(control);
+    return field != nullptr && field->HasRedo();
+  };
+  if (has_redo(first)) return first;
+  const auto fields = Fields();
+  const auto found = std::find_if(fields.begin(), fields.end(), has_redo);
+  return found == fields.end() ? nullptr : *found;
 }
 
 QWidget& PageEditor::FieldAt(const Place& place) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "core/document/page_record.h"
 #include "core/history/history.h"
@@ -36,6 +37,12 @@ class PageEditor {
   void FocusOn(const Place& place);
   /// Puts the caret of that field there.
   void ShowCaret(const Place& place);
+
+  /// Calls `look` while everything stands in the fields that their own undo has taken back.
+  void WithRedo(const std::function<void()>& look);
+  /// As the editor is asked for them.
+  QWidget* FieldWithUnheldWords() const;
+  QWidget* FieldWithRedo(QWidget* first) const;
 
   /// What the fields hold, links apart.
   PageFields TypedFields() const;
