@@ -24,10 +24,13 @@ class Record {
   /// The bytes to change; other copies of the record keep theirs.
   std::string& Edit();
 
+  // As strings call it.
+  // NOLINTBEGIN(readability-identifier-naming)
   bool empty() const { return bytes_ == nullptr || bytes_->empty(); }
   std::size_t size() const { return Bytes().size(); }
   std::size_t find(std::string_view text) const { return Bytes().find(text); }
   void clear() { bytes_.reset(); }
+  // NOLINTEND(readability-identifier-naming)
   Record& operator+=(std::string_view more);
   /// Takes these bytes. If they are the same, copies go on sharing them.
   void Update(std::string bytes);

@@ -98,6 +98,7 @@ void History::Amend(const Change& change) {
     return;
   }
   Step& step = done_ > 0 ? steps_[done_ - 1] : steps_.front();
+  const bool is_changed_again = done_ == 0 && Find(step.Pages, change.Number) != step.Pages.end();
   bytes_ -= BytesOf(step);
   if (done_ > 0) {
     PutBehind(change, step.Pages);
@@ -105,6 +106,18 @@ void History::Amend(const Change& change) {
     PutBefore(change, step.Pages);
   }
   bytes_ += BytesOf(step);
+  if (!is_changed_again) LetUndoneStepsBeginWith(change);
+}
+
+/// The first undone step that changes the page finds it as it is now.
+void History::LetUndoneStepsBeginWith(const Change& change) {
+  for (std::size_t undone = std::max<std::size_t>(done_, 1); undone < steps_.size(); ++undone) {
+    std::vector<Change>& pages = steps_[undone].Pages;
+    const auto found = Find(pages, change.Number);
+    if (found == pages.end()) continue;
+    found->Before = change.After;
+    return;
+  }
 }
 
 void History::ForgetUndone() {

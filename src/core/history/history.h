@@ -81,6 +81,7 @@ class History {
   const Step& Redo(Global& global);
 
  private:
+  void LetUndoneStepsBeginWith(const Change& change);
   void ForgetUndone();
   void ForgetOldest();
 

@@ -36,16 +36,10 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
   Moment before = std::move(*before_);
   before_.reset();
   const Step changed = Difference(before.Document, global);
-  const Record& now = global.Page(before.Editor.At.Page);
   if (IsOnlyRewritten(before, changed)) {
     history_.Amend(changed.Pages.front());
   } else {
-    if (shown.Showing == before.Editor.Showing) {
-      AddStored(before, now, shown.Showing);
-    } else {
-      // What was stored is shared with the document, not kept twice.
-      AddStored(before, now == before.Editor.Typed ? now : Record(before.Editor.Typed), 0);
-    }
+    AddTyped(before, global, shown.Showing);
     AddRest(before, global, shown.At);
   }
   if (is_saved_) history_.MarkSaved();
@@ -54,12 +48,24 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
 /// Whether all that the command did was to store a page as the editor writes it, without anything typed.
 bool StepRecorder::IsOnlyRewritten(const Moment& before, const Step& changed) const {
   const Shown& editor = before.Editor;
-  if (changed.Pages.size() != 1 || !changed.MusicLinks.empty() || editor.Rewritten.empty()) return false;
+  if (changed.Pages.size() != 1 || !changed.MusicLinks.empty()) return false;
   const Change& change = changed.Pages.front();
-  return change.Number == editor.At.Page && change.Before == editor.Typed && change.After == editor.Rewritten;
+  return change.Number == editor.At.Page && editor.Rewritten && change.After == *editor.Rewritten;
 }
 
-/// Makes storing the page that was in the fields a step of its own.
+/// Makes a step of its own of what was typed on the page, whether the command has stored it or dropped it.
+void StepRecorder::AddTyped(Moment& before, const Global& global, std::size_t showing) {
+  const Shown& editor = before.Editor;
+  const Record& now = global.Page(editor.At.Page);
+  const bool is_rewritten = editor.Rewritten && now == *editor.Rewritten;
+  if (showing != editor.Showing) {
+    // What was stored is shared with the document, not kept twice.
+    AddStored(before, now == editor.Typed ? now : Record(editor.Typed), 0);
+  } else if (!is_rewritten) {
+    AddStored(before, now, showing);
+  }
+}
+
 void StepRecorder::AddStored(Moment& before, const Record& stored, std::size_t showing) {
   const int number = before.Editor.At.Page;
   Record& page = before.Document.Pages.at(static_cast<std::size_t>(number));
@@ -90,7 +96,7 @@ const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>&
   if (IsTyped(global, before.Editor)) {
     const std::size_t steps = StepsSinceTyped(before.Editor);
     for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
-    if (steps == 0) AddStored(before, before.Editor.Typed, 0);
+    if (steps == 0) AddStored(before, global.Page(before.Editor.At.Page) = before.Editor.Typed, 0);
   }
   if (with_redo && *with_redo != before.Editor.Typed)
     undone = &AddTakenBack(global, before.Editor, *with_redo);
@@ -100,7 +106,7 @@ const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>&
 /// Keeps typing that a field has taken back, as a step that is taken back.
 const Step& StepRecorder::AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo) {
   history_.Add({.Name = EditName(shown.At.Page),
-                .Pages = {{shown.At.Page, shown.Typed, with_redo}},
+                .Pages = {{shown.At.Page, global.Page(shown.At.Page), with_redo}},
                 .MusicLinks = {},
                 .Before = shown.At,
                 .After = shown.At});

@@ -13,10 +13,11 @@ namespace tavrel {
 /// What the editor shows at a moment.
 struct Shown {
   Place At;
-  std::string Typed;           ///< the page's record as it would be if all that is typed were stored
-  std::size_t Showing = 0;     ///< another number each time that a page is brought into the fields
-  std::string Rewritten = {};  ///< what storing makes of a page that nobody has touched
-  std::string AtFirst = {};    ///< what storing would have made of it when it was brought into the fields
+  std::string Typed;        ///< the page's record as it would be if all that is typed were stored
+  std::size_t Showing = 0;  ///< another number each time that a page is brought into the fields
+  std::optional<std::string> Rewritten =
+      {};  ///< what storing would make of a page that nobody has touched; nothing if the same
+  std::string AtFirst = {};  ///< what storing would have made of it when it was brought into the fields
 };
 
 /// Records what the commands do to the document, by looking at it before and after each of them. What was
@@ -58,6 +59,7 @@ class StepRecorder {
   };
 
   bool IsOnlyRewritten(const Moment& before, const Step& changed) const;
+  void AddTyped(Moment& before, const Global& global, std::size_t showing);
   void AddStored(Moment& before, const Record& stored, std::size_t showing);
   const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);
   void AddRest(const Moment& before, const Global& global, const Place& after);

@@ -177,7 +177,7 @@ Shown Main::Now() const {
   return {.At = At(),
           .Typed = is_untouched ? record : typed,
           .Showing = showing_,
-          .Rewritten = is_untouched && typed != record ? typed : std::string(),
+          .Rewritten = is_untouched && typed != record ? std::optional(typed) : std::nullopt,
           .AtFirst = first_record_};
 }
 
