@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string>
-
 class QKeyEvent;
 class QWidget;
 
@@ -15,7 +13,6 @@ class TextField {
   /// Whether there is typing to take back, or to make again.
   virtual bool HasUndo() const = 0;
   virtual bool HasRedo() const = 0;
-  virtual std::string Bytes() const = 0;
   virtual void Undo() = 0;
   virtual void Redo() = 0;
 

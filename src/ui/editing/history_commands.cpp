@@ -47,9 +47,10 @@ void HistoryCommands::EditUndo_Click() {
   if (QWidget* control = FieldToUndo()) {
     control->setFocus();
     FieldOf(control)->Undo();
-  } else if (const Step* step = app_.Steps.Undo(app_.State, editor_.TypedWithRedo())) {
-    Show(step->Before, tr("Undone: %1").arg(QString::fromStdString(step->Name)));
+    return;
   }
+  const Step* step = UndoName() ? app_.Steps.Undo(app_.State, editor_.TypedWithRedo()) : nullptr;
+  if (step != nullptr) Show(step->Before, tr("Undone: %1").arg(QString::fromStdString(step->Name)));
 }
 
 void HistoryCommands::EditRedo_Click() {

@@ -76,15 +76,23 @@ void PageEditor::ShowCaret(const Place& place) {
 }
 
 void PageEditor::WithRedo(const std::function<void()>& look) {
-  std::vector<std::pair<TextField*, std::string>> changed;
+  struct Changed {
+    TextField* Field;
+    int Anchor;
+    int Caret;
+    int Redos = 0;
+  };
+  std::vector<Changed> fields;
   for (QWidget* control : Fields()) {
     TextField* field = FieldOf(control);
-    if (field->HasRedo()) changed.emplace_back(field, field->Bytes());
-    while (field->HasRedo()) field->Redo();
+    Changed& changed = fields.emplace_back(Changed{field, field->Anchor(), field->Caret()});
+    for (; field->HasRedo(); ++changed.Redos) field->Redo();
   }
   look();
-  for (const auto& [field, bytes] : changed) {
-    while (field->HasUndo() && field->Bytes() != bytes) field->Undo();
+  for (const Changed& changed : fields) {
+    if (changed.Redos == 0) continue;
+    for (int redo = 0; redo < changed.Redos; ++redo) changed.Field->Undo();
+    changed.Field->SetCaret(changed.Anchor, changed.Caret);
   }
 }
 
