@@ -93,10 +93,8 @@ void History::Add(Step step) {
 }
 
 void History::Amend(const Change& change) {
-  if (steps_.empty()) {
-    PutBehind(change, head_);
-    return;
-  }
+  if (done_ == 0) PutBehind(change, head_);
+  if (steps_.empty()) return;
   Step& step = done_ > 0 ? steps_[done_ - 1] : steps_.front();
   const bool is_changed_again = done_ == 0 && Find(step.Pages, change.Number) != step.Pages.end();
   bytes_ -= BytesOf(step);
@@ -147,6 +145,7 @@ const Step& History::Undo(Global& global) {
 }
 
 const Step& History::Redo(Global& global) {
+  if (done_ == 0) head_.clear();  // the first step has taken it in
   const Step& step = steps_.at(done_++);
   for (const Change& change : step.Pages) global.Page(change.Number) = change.After;
   for (const Change& change : step.MusicLinks) global.MusicLink(change.Number) = change.After;
