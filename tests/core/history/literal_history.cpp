@@ -1,0 +1,93 @@
+#include "core/history/literal_history.h"
+
+#include <utility>
+
+namespace tavrel::test {
+
+void LiteralHistory::Add(Step step, LiteralDocument after) {
+  if (saved_ && *saved_ > done_) saved_.reset();
+  steps_.resize(done_, {});
+  states_.resize(done_ + 1);
+  steps_.push_back(std::move(step));
+  states_.push_back(std::move(after));
+  ++done_;
+  now_ = states_.back();
+}
+
+void LiteralHistory::AddEdit(const Typing& before, const std::string& stored, std::size_t showing) {
+  LiteralDocument after = now_;
+  after.SetPage(before.Page, stored);
+  if (after == now_) return;
+  Add({"Edit page " + std::to_string(before.Page), before.Page, before.Page, showing}, std::move(after));
+}
+
+void LiteralHistory::AddCommand(const std::string& name, const Typing& before, const LiteralDocument& after,
+                                const Typing& shown) {
+  LiteralDocument rewritten = now_;
+  if (before.Rewritten) rewritten.SetPage(before.Page, *before.Rewritten);
+  if (after == rewritten && !(after == now_)) return Rewrite(before);
+  if (before.Showing != shown.Showing) {
+    AddEdit(before, before.Typed, 0);
+  } else if (before.Rewritten != after.Page(before.Page)) {
+    AddEdit(before, after.Page(before.Page), shown.Showing);
+  }
+  if (!(after == now_)) Add({name, before.Page, shown.Page, 0}, after);
+}
+
+/// The document has the page so from now on, also after steps that are made again, until one changes it.
+/// Before the first step it stays as it was.
+void LiteralHistory::Rewrite(const Typing& before) {
+  const std::string earlier = now_.Page(before.Page);
+  now_.SetPage(before.Page, *before.Rewritten);
+  for (std::size_t state = done_ > 0 ? done_ : 1; state < states_.size(); ++state) {
+    if (states_[state].Page(before.Page) != earlier) break;
+    states_[state].SetPage(before.Page, *before.Rewritten);
+  }
+}
+
+/// So many storings of this showing, and nothing else, have happened since the page was as it is typed.
+std::size_t LiteralHistory::StoringsSince(const Typing& shown) const {
+  const auto is_storing = [&](std::size_t step) {
+    return step > 0 && steps_[step - 1].Showing == shown.Showing;
+  };
+  for (std::size_t step = done_; is_storing(step); --step) {
+    if (states_[step - 1].Page(shown.Page) == shown.Typed) return done_ - step + 1;
+    if (!is_storing(step - 1) && shown.AtFirst == shown.Typed) return done_ - step + 1;
+  }
+  return 0;
+}
+
+void LiteralHistory::TakeBack() {
+  --done_;
+  now_ = states_[done_];
+}
+
+std::optional<LiteralHistory::Taken> LiteralHistory::Undo(const Typing& shown, const std::string& with_redo) {
+  std::optional<Taken> taken;
+  const auto take = [&] {
+    TakeBack();
+    taken = {steps_[done_].Name, steps_[done_].PageBefore};
+  };
+  if (!IsTyped(shown) && done_ == 0) return taken;
+  if (IsTyped(shown)) {
+    const std::size_t storings = StoringsSince(shown);
+    if (storings == 0) AddEdit(shown, shown.Typed, 0);
+    for (std::size_t storing = 0; storing < storings; ++storing) take();
+  }
+  // What the field could make again becomes a step that is taken back.
+  if (with_redo != shown.Typed) {
+    AddEdit(shown, with_redo, 0);
+    take();
+  }
+  if (done_ > 0) take();
+  return taken;
+}
+
+std::optional<LiteralHistory::Taken> LiteralHistory::Redo(const Typing& shown) {
+  if (done_ == steps_.size() || IsTyped(shown)) return std::nullopt;
+  ++done_;
+  now_ = states_[done_];
+  return Taken{steps_[done_ - 1].Name, steps_[done_ - 1].PageAfter};
+}
+
+}  // namespace tavrel::test
