@@ -1,19 +1,16 @@
 #include <algorithm>
 #include <benchmark/benchmark.h>
 #include <functional>
-#include <malloc.h>
-#include <memory>
 #include <string.h>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "core/document/markup.h"
 #include "core/editing/blocks.h"
 #include "core/editing/page_commands.h"
 #include "core/editing/search.h"
+#include "edited_document.h"
 #include "rows.h"
-#include "support/full_size_document.h"
 
 namespace tavrel::bench {
 namespace {
@@ -21,72 +18,9 @@ namespace {
 constexpr int kRepetitions = 25;
 constexpr std::string_view kWanted = "cat";
 
-using Edit = std::function<void(Global&)>;
-using Texts = std::vector<std::string>;
-using TextViews = std::vector<std::string_view>;
-
-/// From now on freed memory is kept for reuse, so that no work pays for getting it from the system.
-void KeepFreedMemory() {
-  ::mallopt(M_TRIM_THRESHOLD, 1'000'000'000);
-}
-
 const CodePage& Letters() {
   return CodePage::Windows1252();
 }
-
-/// A document to edit and the pages that it gets back before each edit.
-class Document {
- public:
-  /// The full-size document.
-  Document() {
-    test::MakeFullSizeDocument(*state_);
-    pages_ = state_->Pages;
-  }
-
-  /// The full-size document with other texts on its first pages and none behind them.
-  explicit Document(const Texts& texts) : Document() {
-    for (int page = 1; page <= kLastPage; ++page) {
-      const auto text = static_cast<std::size_t>(page) - 1;
-      SetTag(state_->Page(page).Edit(), text < texts.size() ? texts[text] : "", "<text>", 1);
-    }
-    pages_ = state_->Pages;
-  }
-
-  const Global& State() const { return *state_; }
-
-  double TimeOf(const Edit& edit) {
-    state_->Pages = pages_;
-    state_->CurrentPage = 1;
-    state_->PageClipboard.clear();
-    const double seconds = Seconds([&] { edit(*state_); });
-    benchmark::DoNotOptimize(state_->Pages.data());
-    return seconds;
-  }
-
-  double TimeOfCopyingPages() const { return TimeOfCopying({pages_.begin(), pages_.end()}); }
-
-  double TimeOfCopyingTexts() const { return TimeOfCopying(PageTexts()); }
-
-  TextViews PageTexts() const {
-    TextViews texts;
-    for (const std::string& page : pages_) texts.push_back(TagContent(page, "<text>", 1));
-    return texts;
-  }
-
- private:
-  static double TimeOfCopying(const TextViews& texts) {
-    std::vector<std::string> copies(texts.size());
-    const double seconds = Seconds([&] {
-      for (std::size_t i = 0; i < texts.size(); ++i) copies[i] = texts[i];
-    });
-    benchmark::DoNotOptimize(copies.data());
-    benchmark::ClobberMemory();
-    return seconds;
-  }
-
-  std::unique_ptr<Global> state_ = std::make_unique<Global>();
-  decltype(Global::Pages) pages_;
-};
 
 /// The case that is nearest to the limit, with its name as the note.
 class Worst {
@@ -112,7 +46,7 @@ void InsertFifty(Global& global) {
 }
 
 std::vector<Row> PageRows() {
-  Document document;
+  EditedDocument document;
   const auto compare = [&document](const std::string& work, const Edit& edit, const Edit& baseline) {
     return Compare(
         work, 5, kRepetitions, [&] { return document.TimeOf(edit); },
@@ -130,7 +64,7 @@ constexpr std::string_view kAbsent[] = {
     "z", "e#", "ea#", "the swan lake", "e on for a while", "Line 1 of page 000, which goes on for a while."};
 
 Row FindRow(const std::string& work, double limit, bool match_case) {
-  const Document document;
+  const EditedDocument document;
   const TextViews texts = document.PageTexts();
   Worst worst;
   for (const std::string_view wanted : kAbsent) {
@@ -183,7 +117,7 @@ constexpr Replacing kReplacings[] = {{"by nothing", "", true},
 /// Replaces in the one document and does the baseline with the other.
 Row ReplaceRow(const std::string& work, double limit, const Texts& texts,
                const std::function<double(const Edit& replace)>& baseline) {
-  Document document(texts);
+  EditedDocument document(texts);
   Worst worst;
   for (const Replacing& replacing : kReplacings) {
     const Edit replace = [&](Global& global) {
@@ -203,9 +137,9 @@ std::vector<Row> ReplaceRows() {
   constexpr std::size_t kHits = 100'000;
   constexpr std::size_t kLongText = 32'000;
   constexpr std::size_t kLongTexts = 25;
-  Document usual(UsualTexts(kHits));
-  Document half_the_hits(UsualTexts(kHits / 2));
-  Document short_texts(TextsWithHits(kLongTexts * 4, kLongText / 4, kHits));
+  EditedDocument usual(UsualTexts(kHits));
+  EditedDocument half_the_hits(UsualTexts(kHits / 2));
+  EditedDocument short_texts(TextsWithHits(kLongTexts * 4, kLongText / 4, kHits));
   return {ReplaceRow("replace 100,000 times : copy all texts", 20, UsualTexts(kHits),
                      [&](const Edit&) { return usual.TimeOfCopyingTexts(); }),
           ReplaceRow("replace 100,000 times : 50,000 times", 2.5, UsualTexts(kHits),

@@ -28,12 +28,20 @@ double Median(std::vector<double> figures) {
 
 Row Compare(const std::string& work, double limit, int repetitions, const Timed& timed,
             const Timed& baseline) {
-  timed();
+  return CompareAdded(
+      work, limit, repetitions, timed, [] { return 0.0; }, baseline);
+}
+
+Row CompareAdded(const std::string& work, double limit, int repetitions, const Timed& with,
+                 const Timed& without, const Timed& baseline) {
+  with();
+  without();
   baseline();
   std::vector<double> work_times;
   std::vector<double> baseline_times;
   for (int repetition = 0; repetition < repetitions; ++repetition) {
-    work_times.push_back(timed());
+    const double time_with = with();
+    work_times.push_back(time_with - without());
     baseline_times.push_back(baseline());
   }
   const double work_time = Median(work_times);

@@ -27,6 +27,10 @@ double Median(std::vector<double> figures);
 Row Compare(const std::string& work, double limit, int repetitions, const Timed& timed,
             const Timed& baseline);
 
+/// Compares what a work takes more with something than without it.
+Row CompareAdded(const std::string& work, double limit, int repetitions, const Timed& with,
+                 const Timed& without, const Timed& baseline);
+
 /// The seconds that `work` takes.
 double Seconds(const std::function<void()>& work);
 

@@ -15,6 +15,9 @@ std::vector<Row> WindowRows();
 /// Renumbering the links of the full-size document, searching its texts and replacing in them.
 std::vector<Row> EditingRows();
 
+/// Recording steps for Undo.
+std::vector<Row> HistoryRows();
+
 /// Importing notes and copying them.
 std::vector<Row> IpodRows();
 

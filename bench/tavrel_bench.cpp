@@ -16,7 +16,7 @@ int main(int argc, char* argv[]) {
   QApplication application(argc, argv);
   try {
     std::vector<Row> rows = FileRows();
-    for (const auto& more : {WindowRows, EditingRows, IpodRows, ProcessRows}) {
+    for (const auto& more : {WindowRows, EditingRows, HistoryRows, IpodRows, ProcessRows}) {
       for (Row& row : more()) rows.push_back(std::move(row));
     }
     PrintTable(rows);

@@ -6,14 +6,9 @@
 #include <stdexcept>
 #include <vector>
 
-#include "core/document/document_file.h"
+#include "open_editor.h"
 #include "rows.h"
-#include "support/fake_platform.h"
-#include "support/full_size_document.h"
-#include "support/recording.h"
-#include "support/temporary_folder.h"
 #include "ui/ipod/music_editor.h"
-#include "ui/main/main_window.h"
 #include "ui/shell/recovery_keeper.h"
 
 namespace tavrel::bench {
@@ -44,31 +39,6 @@ class PaintWatch : public QObject {
 
  private:
   bool painted_ = false;
-};
-
-/// The editor with the full-size document open.
-struct OpenEditor {
-  test::TemporaryFolder Folder;
-  Global State;
-  test::FakePlatform System;
-  test::RecordingMessages Messages;
-  test::RecordedProgram Program;
-  App Application{State, System, Messages, Program};
-  Main Window{Application};
-
-  OpenEditor() {
-    test::MakeFullSizeDocument(State);
-    State.ProgramFolder = Folder.Path();
-    Window.Form_Load();
-    State.DocPath = "Full size.dat";
-    SaveDocument(State, System);
-    Window.LoadDoc();
-    Window.ShowControls();
-    Window.ShowDocumentName();
-    Window.show();
-    Window.activateWindow();
-    QCoreApplication::processEvents();
-  }
 };
 
 double TimeMove(OpenEditor& editor, PaintWatch& body) {

@@ -97,6 +97,7 @@ void Monkey::PressKeys() {
        QKeySequence(QKeyCombination(press.With & ~Qt::KeypadModifier, press.Key)).toString().toStdString() +
        " in " + focus_);
   by_ = By::Keys;
+  by_step_key_ = (press.Key == Qt::Key_Z || press.Key == Qt::Key_Y) && press.With != Qt::NoModifier;
   enter_ = press.Key == Qt::Key_Return || press.Key == Qt::Key_Enter;
   QTest::keyClick(focus, press.Key, press.With);
 }

@@ -3,6 +3,8 @@
 #include <QMenuBar>
 #include <QTest>
 
+#include <utility>
+
 #include "monkey/monkey.h"
 #include "support/user.h"
 
@@ -46,6 +48,15 @@ std::vector<QMenu*> MenusTo(QMainWindow& window, QAction& item) {
 }  // namespace
 
 void Monkey::ActInEditor() {
+  const bool regrets = std::exchange(has_destroyed_, false) && dice_.OneIn(3);
+  if (regrets || dice_.OneIn(14)) {
+    StepThroughHistory(regrets || dice_.Below(5) < 3);
+    return;
+  }
+  if (dice_.OneIn(300)) {
+    Replay();
+    return;
+  }
   const int kind = dice_.Below(100);
   if (kind < 24) {
     TypeIntoField();
@@ -81,7 +92,7 @@ void Monkey::ActOnCover() {
   } else if (dice_.OneIn(12)) {
     // The Edit menu is off.
     ChooseItem(kEditItems);
-  } else if (dice_.OneIn(20)) {
+  } else if (dice_.OneIn(14)) {
     Fidget();
   } else {
     ChooseItem(kCoverItems);
@@ -111,6 +122,9 @@ void Monkey::ChooseByMouse(QAction& item) {
   ++player_.Popups;
   QMenuBar* bar = window.menuBar();
   QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menus.front()->menuAction()).center());
+  if (menus.front()->objectName() == "EditMenu" && menus.front()->isVisible()) CheckCaptions();
+  // A menu takes the focus for a moment, at which a field forgets its selection.
+  model_->MovePlace(screen_->PlaceIn(focus_));
   for (std::size_t i = 1; i < menus.size() && menus[i - 1]->isVisible(); ++i) {
     QTest::mouseClick(menus[i - 1], Qt::LeftButton, {},
                       menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());

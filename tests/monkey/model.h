@@ -2,10 +2,14 @@
 
 #include <array>
 #include <filesystem>
+#include <map>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "core/document/global.h"
 #include "core/editing/literal_editing.h"
+#include "monkey/literal_history.h"
 #include "monkey/record.h"
 #include "monkey/screen.h"
 
@@ -44,6 +48,31 @@ class Model {
   void ClickLink(int row);
   void InsertPlan(const Record& record);
 
+  /// Before anything that may be a command, and after it, with the place of the caret: what has changed
+  /// meanwhile can be taken back.
+  void BeginCommand(const LiteralPlace& place);
+  void EndCommand(const LiteralPlace& place);
+  /// The command began at another place than it seemed.
+  void MovePlace(const LiteralPlace& place);
+  /// The same if a click took the focus away from where it was. Has to be told before `Focus` is forgotten.
+  void LeavePlace(LiteralPlace place_in_body);
+
+  /// Takes back and makes again a step of the document. Nothing if there is none.
+  /// `with_redo`: what the fields would hold whose own redo had made all typing again.
+  std::optional<LiteralStep> Undo(const std::map<std::string, std::string>& with_redo);
+  std::optional<LiteralStep> Redo();
+  /// What the items in the Edit menu say that do so, if the field with the focus has nothing to offer.
+  std::optional<std::string> UndoCaption() const;
+  std::optional<std::string> RedoCaption() const;
+  const LiteralHistory& Steps() const { return steps_; }
+  bool HasUndo() const { return IsTyped() || !steps_.Done.empty(); }
+  bool HasRedo() const { return !IsTyped() && !steps_.Undone.empty(); }
+  /// Whether the document is as it was opened.
+  bool IsAsOpened() const { return *kept_ == *opened_; }
+
+  /// The current page's record if all that is typed were stored.
+  std::string TypedPage() const;
+
   /// The document's file as it has to be.
   std::string FileText() const;
   /// The same with the current page as it stands in the fields.
@@ -62,7 +91,6 @@ class Model {
     bool IsPage = false;
   };
 
-  bool IsTypedPage(const std::string& record) const;
   bool ShowsGrids(const Screen& screen) const;
   std::string& Page(int number) { return editor_.Pages.at(static_cast<std::size_t>(number)); }
   void SavePage();
@@ -73,6 +101,22 @@ class Model {
   void LoadPage(int page);
   void ShowPage();
   void RefreshGrid2();
+  bool IsTyped() const {
+    return TypedPage() != editor_.Pages.at(static_cast<std::size_t>(editor_.CurrentPage));
+  }
+  LiteralDocument Now() const { return {editor_.Pages, music_}; }
+  void AddStep(LiteralStep step, LiteralDocument after);
+  LiteralStep TakeBack();
+  bool IsRewritten() const;
+  bool IsOnlyRewritten() const;
+  void AddSteps(const LiteralPlace& place);
+  void Amend();
+  std::string RecordOfFields() const;
+  std::string TypedPageWith(const std::map<std::string, std::string>& texts) const;
+  void AddEdit(const std::string& record, int showing);
+  int StoringsGoneBehind() const;
+  void TakeOver(std::shared_ptr<const LiteralDocument> document);
+  void ShowAt(const LiteralPlace& place);
   void UpdateGrid1();
   void UpdateGrid2();
   void SwapLinks(int row, int other);
@@ -110,6 +154,22 @@ class Model {
   int selected_page_ = 0;
   std::array<Row, 1000> rows_;
   bool was_shown_ = false;  ///< since the program started
+
+  std::string untouched_;  ///< the record that the fields made when the page was shown or stored
+  std::string at_first_;   ///< the record that they made when it was shown
+  int showing_ = 0;        ///< counts the pages shown
+  LiteralHistory steps_;
+  std::shared_ptr<const LiteralDocument> kept_ = std::make_shared<LiteralDocument>();  ///< as it was last
+  LiteralPlace place_;      ///< when the command began
+  std::string typed_;       ///< when the command began
+  std::string rewritten_;   ///< what storing would have made of the page then
+  int showing_before_ = 0;  ///< when the command began
+  std::string step_name_;   ///< of the command; empty: it is called after what it changes
+  bool is_name_known_ = true;
+  bool is_saved_ = false;  ///< by the command
+  std::shared_ptr<const LiteralDocument> opened_ = kept_;
+  bool is_history_ = false;         ///< the command steps through the history and leaves no step
+  bool is_other_document_ = false;  ///< since the command
 };
 
 }  // namespace tavrel::test

@@ -45,6 +45,7 @@ void Model::Import(const Record& record) {
 }
 
 void Model::EditMusic(const Record& record) {
+  step_name_ = "Music links";
   SavePage();
   std::array<std::array<std::string, 7>, 101> rows;
   for (std::size_t m = 1; m <= 100; ++m) rows[m] = LiteralReadMusic(music_[m]);
@@ -75,6 +76,7 @@ void Model::InsertPlan(const Record& record) {
       "Overwrite pages " + std::to_string(top) + " to " + std::to_string(top + 25) + "?    ";
   ExpectSame(question->Control, text, "the question");
   if (question->Number == 0) return;
+  step_name_ = "Insert plan at " + LiteralFormat(top);
   for (int i = 0; i < 25; ++i) Page(top + i) = pages->at(static_cast<std::size_t>(i));
   RefreshGrid2();
   ShowPage();

@@ -47,6 +47,32 @@ bool IsFit(const std::string& window, const Numbers& n) {
   return range && Within(n.Third, 999) && !inside;
 }
 
+/// What a command for the current page is called as a step.
+std::string PageStep(const std::string& command, int page) {
+  const std::string name = "page " + std::to_string(page);
+  if (command == "EditDelete" || command == "Image8") return "Cut " + name;
+  if (command == "EditPageDeleteIt" || command == "Image15") return "Delete " + name;
+  if (command == "EditPastePage" || command == "Image10") return "Paste " + name;
+  if (command == "EditClear") return "Clear " + name;
+  if (command == "EditInsert") return "Insert " + name;
+  if (command == "EditPageUp" || command == "Image13") return "Move " + name + " up";
+  if (command == "EditPageDown" || command == "Image14") return "Move " + name + " down";
+  return "";
+}
+
+std::string BlockStep(const std::string& window, const Numbers& n) {
+  const auto pages = [](int first, int last) {
+    return first == last ? "page " + std::to_string(first)
+                         : "pages " + std::to_string(first) + " to " + std::to_string(last);
+  };
+  const std::string range = pages(std::min(n.First, n.Second), std::max(n.First, n.Second));
+  if (window == "BlockCopy") return "Copy " + range + " to page " + std::to_string(n.Third);
+  if (window == "BlockClear") return "Clear " + range;
+  if (window == "BlockDelete") return "Delete " + range;
+  // What would be behind the last page is not inserted.
+  return "Insert " + pages(n.First, std::min(n.First + n.Second - 1, 999));
+}
+
 }  // namespace
 
 template <typename Command>
@@ -64,6 +90,7 @@ bool Model::Run(const std::string& command, const Record& record) {
 }
 
 bool Model::RunPageCommand(const std::string& command) {
+  step_name_ = PageStep(command, editor_.CurrentPage);
   if (command == "EditDelete" || command == "EditPageDeleteIt" || command == "Image8" ||
       command == "Image15") {
     RunOnPage([this] { editor_.Cut(); });
@@ -97,11 +124,16 @@ bool Model::RunPageCommand(const std::string& command) {
 
 bool Model::RunLinkCommand(const std::string& command) {
   const int row = LinkRow;
+  const std::string link = "link " + std::to_string(row);
+  const std::string page = "page " + std::to_string(editor_.CurrentPage);
   if (command == "EditLinkUp" || command == "Image16") {
+    step_name_ = "Move " + link + " up on " + page;
     if (row > 1) SwapLinks(row, row - 1);
   } else if (command == "EditLinkDown" || command == "Image17") {
+    step_name_ = "Move " + link + " down on " + page;
     if (row < 49) SwapLinks(row, row + 1);
   } else if (command == "EditLinkDelete" || command == "Image18") {
+    step_name_ = "Delete " + link + " of " + page;
     editor_.Fields.Links.at(static_cast<std::size_t>(row) - 1) = {};
     StoreLinks(row);
   } else {
@@ -160,16 +192,21 @@ void Model::Find(int first_page, const Record& record) {
 
 void Model::Replace(const Event& pressed) {
   const bool match_case = pressed.Values.at("Check1") == "1";
+  int pages = 0;
   for (int page = 1; page <= 1000; ++page) {
     if (Page(page).empty()) continue;
-    const auto replaced = fuzz::LiteralReplace(LiteralGetTag(Page(page), "<text>", 1), find_text_,
-                                               pressed.Values.at("Text2"), match_case);
+    const std::string text = LiteralGetTag(Page(page), "<text>", 1);
+    const auto replaced = fuzz::LiteralReplace(text, find_text_, pressed.Values.at("Text2"), match_case);
     if (replaced) {
+      if (*replaced != text) ++pages;
       LiteralSetTag(Page(page), *replaced, "<text>", 1);
     } else {
       NeedsResynchronising = true;
+      is_name_known_ = false;
     }
   }
+  if (pages == 0) is_name_known_ = false;
+  step_name_ = "Replace in " + std::to_string(pages) + (pages == 1 ? " page" : " pages");
   ShowPage();
 }
 
@@ -192,6 +229,7 @@ bool Model::RunBlock(const std::string& command, const Record& record) {
     const Numbers n = NumbersIn(*pressed);
     Expect(IsFit(window, n), window + " stays open for unfit numbers");
     if (!works_itself) StorePage();
+    step_name_ = BlockStep(window, n);
     if (window == "BlockCopy") editor_.BlockCopy(n.First, n.Second, n.Third);
     if (window == "BlockClear") editor_.BlockClear(n.First, n.Second);
     if (window == "BlockDelete") editor_.BlockDelete(n.First, n.Second);

@@ -81,6 +81,7 @@ void Model::LoadDoc() {
   RefreshGrid2();
   editor_.CurrentPage = 1;
   LoadPage(1);
+  is_other_document_ = true;
 }
 
 void Model::ShowResult() {
@@ -96,6 +97,7 @@ void Model::ShowResult() {
 
 void Model::Hide() {
   IsShown = false;
+  is_other_document_ = true;
 }
 
 std::string Model::FileText() const {
@@ -128,6 +130,7 @@ bool Model::RunFileCommand(const std::string& command, const Record& record) {
   } else if (name == "FileSave") {
     if (refuses("Nothing to save!    ")) return true;
     SavePage();
+    is_saved_ = true;
     Expect(record.MessageOf("Project saved...    ") != nullptr, "saving is told");
     ExpectSame(BytesOf(program_folder_ / doc_), FileText(), "the file of " + doc_);
   } else if (name == "FileSaveAs") {
@@ -135,6 +138,7 @@ bool Model::RunFileCommand(const std::string& command, const Record& record) {
     const Event* given = NameGiven(record, "SaveAs");
     if (given == nullptr) return true;
     doc_ = FileName(given->Values.at("Text1"));
+    is_saved_ = true;
     ExpectSame(BytesOf(program_folder_ / doc_), FileText(), "the file of " + doc_);
   } else if (name == "FileClose") {
     if (refuses("Nothing to close!    ") || !MayGoOn(record, "Closing the document")) return true;

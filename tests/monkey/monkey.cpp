@@ -16,6 +16,9 @@ namespace {
 constexpr std::size_t kHistory = 30;
 constexpr std::size_t kMostBytes = 1'500'000;
 
+/// Less than what the program keeps of steps, so that it never has to forget one.
+constexpr std::size_t kMostStepBytes = 60'000'000;
+
 QString WholeText(const BodyField& body) {
   QString text;
   for (QTextBlock block = body.document()->begin(); block.isValid(); block = block.next()) {
@@ -80,8 +83,8 @@ void Monkey::Act() {
   BeginAct();
   std::size_t bytes = 0;
   for (const std::string& page : stage_->State().Pages) bytes += page.size();
-  if (bytes > kMostBytes) {
-    Note("start anew: the document is large");
+  if (bytes > kMostBytes || model_->Steps().Bytes() > kMostStepBytes) {
+    Note("start anew: the document or its history is large");
     Restart();
     return;
   }
@@ -125,6 +128,12 @@ void Monkey::BeginAct() {
   popups_ = player_.Popups;
   faulty_ = false;
   focus_ = screen_->Focus();
+  place_in_body_ = screen_->PlaceIn("Text1");
+  field_to_undo_ = screen_->FieldToUndo();
+  field_to_redo_ = screen_->FieldToRedo();
+  for (const std::string& field : Screen::FieldNames()) texts_[field] = model_->Typed(field);
+  by_step_key_ = false;
+  model_->BeginCommand(screen_->PlaceIn(focus_));
   model_->Focus = focus_;
   model_->LinkRow = screen_->Links.Row();
   body_ = WholeText(screen_->Body);
@@ -160,11 +169,14 @@ void Monkey::Follow() {
   if (command != nullptr || click != nullptr) {
     if (moves_focus_) {
       model_->LeaveField(focus_);
+      model_->LeavePlace(place_in_body_);
       model_->Focus = "";
     }
     if (click != nullptr) {
       if (click->Control == "MSFlexGrid2") model_->ClickPage(click->Number);
       if (click->Control == "MSFlexGrid1") model_->ClickLink(click->Number);
+    } else if (command->Control == "EditUndo" || command->Control == "EditRedo") {
+      FollowHistory(command->Control == "EditUndo");
     } else if (!model_->Run(command->Control, seen)) {
       FollowText(command->Control);
     }
@@ -173,12 +185,16 @@ void Monkey::Follow() {
     const Event* closed = seen.Last(Event::Kind::Closed, "Publish");
     if (closed != nullptr && seen.MessageOf("Finished...    ") != nullptr) CheckPublished(*closed);
   } else if (by_ == By::Keys) {
+    Expect(!by_step_key_ || !model_->IsShown, "the keys for Undo and Redo reach them from everywhere");
     ++counts_.Keys;
     model_->Observe(focus_, *screen_);
     if (enter_) model_->PressEnter(focus_);
     if (screen_->Focus() != focus_) model_->LeaveField(focus_);
   }
-  if (player_.Popups > popups_) model_->LeaveIfLeft(focus_, *screen_);
+  if (player_.Popups > popups_) {
+    model_->LeaveIfLeft(focus_, *screen_);
+    model_->LeaveIfLeft(screen_->Focus(), *screen_);
+  }
   FollowPlanner();
   if (model_->NeedsResynchronising) {
     ++counts_.Resynchronised;
@@ -186,6 +202,11 @@ void Monkey::Follow() {
     model_->NeedsResynchronising = false;
   }
   model_->Focus = screen_->Focus();
+  const std::size_t steps = model_->Steps().Done.size();
+  model_->EndCommand(screen_->PlaceIn(screen_->Focus()));
+  const std::vector<LiteralStep>& done = model_->Steps().Done;
+  FollowRedo();
+  has_destroyed_ = done.size() > steps && !done.back().Name.starts_with("Edit page");
 }
 
 void Monkey::FollowPlanner() {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -27,6 +28,9 @@ struct Counts {
   int Failures = 0;  ///< run-time errors, all of them earned
   int Published = 0;
   int Kills = 0;
+  int Undone = 0;     ///< steps taken back
+  int Redone = 0;     ///< steps made again
+  int Replays = 0;    ///< histories gone through from end to end
   int Recovered = 0;  ///< documents that were brought back after a kill
 };
 
@@ -77,11 +81,18 @@ class Monkey {
   void ChooseByMouse(QAction& item);
   void OpenContextMenu();
   void Fidget();
+  void StepThroughHistory(bool back);
+  void Replay();
 
   void BeginAct();
   void EndAct();
   void Follow();
   void FollowPlanner();
+  void FollowRedo();
+  void FollowHistory(bool back);
+  void CheckTold(bool back, const std::string& step) const;
+  void CheckPlace(const LiteralPlace& place) const;
+  void CheckCaptions() const;
   void FollowText(const std::string& command);
   void CheckEnd();
   bool IsEarned(const Event& failure) const;
@@ -108,9 +119,16 @@ class Monkey {
   std::string focus_;         ///< before the action
   bool moves_focus_ = false;  ///< whether a click takes the focus away before a command begins
   bool enter_ = false;
-  int popups_ = 0;       ///< that there have been before the action
-  bool faulty_ = false;  ///< a file operation was set to fail
-  QString body_;         ///< the body before the action, with its selection
+  LiteralPlace place_in_body_;  ///< of the caret before the action
+  std::string field_to_undo_;   ///< whose own undo would have been next before the action
+  std::string field_to_redo_;
+  std::map<std::string, std::string> texts_;      ///< of all fields, before the action
+  std::map<std::string, std::string> with_redo_;  ///< what fields would hold if their redo made all again
+  bool by_step_key_ = false;                      ///< the key was one for Undo or Redo
+  bool has_destroyed_ = false;  ///< the action before was one of those for which Undo is there
+  int popups_ = 0;              ///< that there have been before the action
+  bool faulty_ = false;         ///< a file operation was set to fail
+  QString body_;                ///< the body before the action, with its selection
   int selection_start_ = 0;
   int selection_end_ = 0;
   QString clipboard_;
