@@ -33,7 +33,7 @@ void ExpectSamePages(const Global& actual, const Global& expected) {
 
 /// A document with the record on the first page, the last one and those in and around a block.
 void Fill(Global& global, const std::string& record, int at, int count) {
-  for (std::string& page : global.Pages) page.clear();
+  for (Record& page : global.Pages) page.clear();
   for (int page = std::max(at - 1, 1); page <= std::min(at + count, kLastPage); ++page) {
     global.Page(page) = record + "<title>" + std::to_string(page) + "</title>";
   }
