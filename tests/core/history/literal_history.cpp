@@ -4,7 +4,7 @@
 
 namespace tavrel::test {
 
-void LiteralHistory::Add(Step step, LiteralDocument after) {
+void LiteralHistory::Add(Step step, DocumentCopy after) {
   if (saved_ && *saved_ > done_) saved_.reset();
   steps_.resize(done_, {});
   states_.resize(done_ + 1);
@@ -15,15 +15,15 @@ void LiteralHistory::Add(Step step, LiteralDocument after) {
 }
 
 void LiteralHistory::AddEdit(const Typing& before, const std::string& stored, std::size_t showing) {
-  LiteralDocument after = now_;
+  DocumentCopy after = now_;
   after.SetPage(before.Page, stored);
   if (after == now_) return;
   Add({"Edit page " + std::to_string(before.Page), before.Page, before.Page, showing}, std::move(after));
 }
 
-void LiteralHistory::AddCommand(const std::string& name, const Typing& before, const LiteralDocument& after,
+void LiteralHistory::AddCommand(const std::string& name, const Typing& before, const DocumentCopy& after,
                                 const Typing& shown) {
-  LiteralDocument rewritten = now_;
+  DocumentCopy rewritten = now_;
   if (before.Rewritten) rewritten.SetPage(before.Page, *before.Rewritten);
   if (after == rewritten && !(after == now_)) return Rewrite(before);
   if (before.Showing != shown.Showing) {

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/history/literal_document.h"
+#include "core/history/document_copy.h"
 
 namespace tavrel::test {
 
@@ -20,12 +20,12 @@ struct Typing {
 /// The rules of undo, over whole copies of the document before and after each step.
 class LiteralHistory {
  public:
-  explicit LiteralHistory(const LiteralDocument& document) : now_(document), states_{document} {}
+  explicit LiteralHistory(const DocumentCopy& document) : now_(document), states_{document} {}
 
   /// A command has run. What had been typed before it and is no longer in the fields, or what it has stored
   /// of the page that is still in them, is a step of its own. If all that it did was to rewrite a page on
   /// which nothing was typed, that goes with the last step, or else with the next one.
-  void AddCommand(const std::string& name, const Typing& before, const LiteralDocument& after,
+  void AddCommand(const std::string& name, const Typing& before, const DocumentCopy& after,
                   const Typing& shown);
   void MarkSaved() { saved_ = done_; }
 
@@ -37,7 +37,7 @@ class LiteralHistory {
   std::optional<Taken> Undo(const Typing& shown, const std::string& with_redo);
   std::optional<Taken> Redo(const Typing& shown);
 
-  const LiteralDocument& Document() const { return now_; }
+  const DocumentCopy& Document() const { return now_; }
   bool IsSaved() const { return saved_ == done_; }
   std::size_t Done() const { return done_; }
   std::size_t Steps() const { return steps_.size(); }
@@ -51,15 +51,15 @@ class LiteralHistory {
     std::size_t Showing;  ///< that a page was stored in which stayed shown; 0 for all other steps
   };
 
-  void Add(Step step, LiteralDocument after);
+  void Add(Step step, DocumentCopy after);
   void AddEdit(const Typing& before, const std::string& stored, std::size_t showing);
   bool IsTyped(const Typing& shown) const { return Document().Page(shown.Page) != shown.Typed; }
   void Rewrite(const Typing& before);
   std::size_t StoringsSince(const Typing& shown) const;
   void TakeBack();
 
-  LiteralDocument now_;
-  std::vector<LiteralDocument> states_;
+  DocumentCopy now_;
+  std::vector<DocumentCopy> states_;
   std::vector<Step> steps_;
   std::size_t done_ = 0;
   std::optional<std::size_t> saved_ = 0;

@@ -28,7 +28,7 @@ void RandomEditor::Run(const std::string& name, const Command& command) {
   done_ += (name.empty() ? "unnamed" : name) + "; ";
   editor_.Run(name, command);
   literal_.AddCommand(name.empty() ? "Edit page " + std::to_string(before.Page) : name, before,
-                      LiteralDocument(editor_.State), Now());
+                      DocumentCopy(editor_.State), Now());
 }
 
 template <typename Command>

@@ -8,7 +8,7 @@
 namespace tavrel::test {
 
 RandomEditor::RandomEditor(std::mt19937& random, const std::vector<std::string>& records)
-    : random_(random), literal_(LiteralDocument(Filled(editor_, random, records))) {}
+    : random_(random), literal_(DocumentCopy(Filled(editor_, random, records))) {}
 
 /// The pages are among the first and the last, and so are most of their links.
 Global& RandomEditor::Filled(RecordedEditor& editor, std::mt19937& random,

@@ -9,16 +9,16 @@ namespace tavrel::test {
 
 /// A plain copy of a document, which shares nothing with it: the bytes of all pages and music links that are
 /// not empty.
-class LiteralDocument {
+class DocumentCopy {
  public:
-  LiteralDocument() = default;
-  explicit LiteralDocument(const Global& global);
+  DocumentCopy() = default;
+  explicit DocumentCopy(const Global& global);
 
   std::string Page(int number) const;
   void SetPage(int number, const std::string& bytes);
 
   bool IsIn(const Global& global) const;
-  bool operator==(const LiteralDocument& other) const { return records_ == other.records_; }
+  bool operator==(const DocumentCopy& other) const { return records_ == other.records_; }
 
   /// The records that are others in a document, for the message of a failure.
   std::string Others(const Global& global) const;

@@ -1,4 +1,4 @@
-#include "core/history/literal_document.h"
+#include "core/history/document_copy.h"
 
 namespace tavrel::test {
 namespace {
@@ -22,18 +22,18 @@ void SeeRecords(const Global& global, const See& see) {
 
 }  // namespace
 
-LiteralDocument::LiteralDocument(const Global& global) {
+DocumentCopy::DocumentCopy(const Global& global) {
   SeeRecords(global, [this](int number, const std::string& bytes) {
     records_.emplace_hint(records_.end(), number, std::string(bytes.begin(), bytes.end()));
   });
 }
 
-std::string LiteralDocument::Page(int number) const {
+std::string DocumentCopy::Page(int number) const {
   const auto found = records_.find(number);
   return found == records_.end() ? std::string() : found->second;
 }
 
-void LiteralDocument::SetPage(int number, const std::string& bytes) {
+void DocumentCopy::SetPage(int number, const std::string& bytes) {
   if (bytes.empty()) {
     records_.erase(number);
   } else {
@@ -41,7 +41,7 @@ void LiteralDocument::SetPage(int number, const std::string& bytes) {
   }
 }
 
-bool LiteralDocument::IsIn(const Global& global) const {
+bool DocumentCopy::IsIn(const Global& global) const {
   auto expected = records_.begin();
   bool is_same = true;
   SeeRecords(global, [&](int number, const std::string& bytes) {
@@ -51,8 +51,8 @@ bool LiteralDocument::IsIn(const Global& global) const {
   return is_same && expected == records_.end();
 }
 
-std::string LiteralDocument::Others(const Global& global) const {
-  const LiteralDocument other(global);
+std::string DocumentCopy::Others(const Global& global) const {
+  const DocumentCopy other(global);
   std::string told;
   for (int number = 0; number <= kFirstMusicLink + kLastMusicLink; ++number) {
     if (Page(number) == other.Page(number)) continue;
