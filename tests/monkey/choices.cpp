@@ -48,9 +48,11 @@ std::vector<QMenu*> MenusTo(QMainWindow& window, QAction& item) {
 }  // namespace
 
 void Monkey::ActInEditor() {
-  const bool regrets = std::exchange(has_destroyed_, false) && dice_.OneIn(3);
-  if (regrets || dice_.OneIn(14)) {
-    StepThroughHistory(regrets || dice_.Below(5) < 3);
+  const bool has_reason = std::exchange(has_destroyed_, false) || std::exchange(has_stored_, false);
+  const bool regrets = has_reason && dice_.OneIn(3);
+  const bool has_undone = !model_->Steps().Undone.empty();
+  if (regrets || dice_.OneIn(has_undone ? 8 : 16)) {
+    StepsThroughHistory(regrets || !has_undone || dice_.OneIn(3));
     return;
   }
   if (dice_.OneIn(300)) {

@@ -16,6 +16,17 @@ constexpr int kMostSteps = 100'000;
 
 }  // namespace
 
+/// Mostly one step, now and then several on end.
+void Monkey::StepsThroughHistory(bool back) {
+  for (int left = dice_.OneIn(3) ? dice_.Between(1, 5) : 0; left > 0; --left) {
+    StepThroughHistory(back);
+    EndAct();
+    BeginAct();
+    Activate(stage_->Window());
+  }
+  StepThroughHistory(back);
+}
+
 void Monkey::StepThroughHistory(bool back) {
   auto& item = Find<QAction>(stage_->Window(), back ? "EditUndo" : "EditRedo");
   const int kind = dice_.Below(10);

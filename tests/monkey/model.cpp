@@ -42,7 +42,8 @@ void Model::Resynchronise(const Global& global, const Screen& screen) {
   }
   IsShown = !screen.IsCovered();
   // Whatever the fields hold has been shown or stored just now.
-  untouched_ = LiteralBuildPage(editor_.Fields);
+  at_first_ = LiteralBuildPage(editor_.Fields);
+  untouched_ = at_first_;
 }
 
 void Model::ObserveCovered(const Screen& screen) {

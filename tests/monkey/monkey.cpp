@@ -206,7 +206,9 @@ void Monkey::Follow() {
   model_->EndCommand(screen_->PlaceIn(screen_->Focus()));
   const std::vector<LiteralStep>& done = model_->Steps().Done;
   FollowRedo();
-  has_destroyed_ = done.size() > steps && !done.back().Name.starts_with("Edit page");
+  const bool has_step = done.size() > steps;
+  has_destroyed_ = has_step && !done.back().Name.starts_with("Edit page");
+  has_stored_ = has_step && done.back().Showing != 0;
 }
 
 void Monkey::FollowPlanner() {

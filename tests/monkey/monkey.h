@@ -81,6 +81,7 @@ class Monkey {
   void ChooseByMouse(QAction& item);
   void OpenContextMenu();
   void Fidget();
+  void StepsThroughHistory(bool back);
   void StepThroughHistory(bool back);
   void Replay();
 
@@ -126,9 +127,11 @@ class Monkey {
   std::map<std::string, std::string> with_redo_;  ///< what fields would hold if their redo made all again
   bool by_step_key_ = false;                      ///< the key was one for Undo or Redo
   bool has_destroyed_ = false;  ///< the action before was one of those for which Undo is there
-  int popups_ = 0;              ///< that there have been before the action
-  bool faulty_ = false;         ///< a file operation was set to fail
-  QString body_;                ///< the body before the action, with its selection
+  bool has_stored_ =
+      false;             ///< it has stored the page and left it in the fields, whose undo goes behind that
+  int popups_ = 0;       ///< that there have been before the action
+  bool faulty_ = false;  ///< a file operation was set to fail
+  QString body_;         ///< the body before the action, with its selection
   int selection_start_ = 0;
   int selection_end_ = 0;
   QString clipboard_;

@@ -1,8 +1,8 @@
 #include "core/history/history.h"
 
 #include <algorithm>
+#include <functional>
 #include <string>
-#include <unordered_set>
 #include <utility>
 
 namespace tavrel {
@@ -24,11 +24,15 @@ using Side = Record Change::*;
 /// The bytes of the records of one side that the other does not have. Records that have only moved are the
 /// document's own.
 std::size_t BytesOfSide(const std::vector<Change>& changes, Side side, Side other) {
-  std::unordered_set<const std::string*> others;
-  for (const Change& change : changes) others.insert(&(change.*other).Bytes());
+  std::vector<const std::string*> others;
+  others.reserve(changes.size());
+  for (const Change& change : changes) others.push_back(&(change.*other).Bytes());
+  std::sort(others.begin(), others.end(), std::less<>());
   std::size_t bytes = 0;
-  for (const Change& change : changes)
-    if (!others.contains(&(change.*side).Bytes())) bytes += (change.*side).size();
+  for (const Change& change : changes) {
+    const std::string& record = (change.*side).Bytes();
+    if (!std::binary_search(others.begin(), others.end(), &record, std::less<>())) bytes += record.size();
+  }
   return bytes;
 }
 
@@ -40,6 +44,12 @@ std::size_t BytesOf(const std::vector<Change>& changes) {
 
 std::size_t BytesOf(const Step& step) {
   return sizeof step + BytesOf(step.Pages) + BytesOf(step.MusicLinks);
+}
+
+template <typename RecordArray>
+void FollowAll(const RecordArray& now, RecordArray& records) {
+  for (std::size_t number = 0; number < now.size(); ++number)
+    if (!records[number].Shares(now[number])) records[number] = now[number];
 }
 
 std::vector<Change>::iterator Find(std::vector<Change>& changes, int number) {
@@ -68,8 +78,9 @@ void PutBehind(const Change& later, std::vector<Change>& changes) {
 
 }  // namespace
 
-Records RecordsOf(const Global& global) {
-  return {global.Pages, global.MusicLinks};
+void Follow(const Global& global, Records& records) {
+  FollowAll(global.Pages, records.Pages);
+  FollowAll(global.MusicLinks, records.MusicLinks);
 }
 
 Step Difference(const Records& before, const Global& now) {
@@ -86,7 +97,8 @@ void History::Start() {
 void History::Add(Step step) {
   ForgetUndone();
   for (const Change& change : std::exchange(head_, {})) PutBefore(change, step.Pages);
-  bytes_ += BytesOf(step);
+  step.Bytes = BytesOf(step);
+  bytes_ += step.Bytes;
   steps_.push_back(std::move(step));
   ++done_;
   while (bytes_ > kMostBytes && steps_.size() > 1) ForgetOldest();
@@ -97,13 +109,14 @@ void History::Amend(const Change& change) {
   if (steps_.empty()) return;
   Step& step = done_ > 0 ? steps_[done_ - 1] : steps_.front();
   const bool is_changed_again = done_ == 0 && Find(step.Pages, change.Number) != step.Pages.end();
-  bytes_ -= BytesOf(step);
+  bytes_ -= step.Bytes;
   if (done_ > 0) {
     PutBehind(change, step.Pages);
   } else {
     PutBefore(change, step.Pages);
   }
-  bytes_ += BytesOf(step);
+  step.Bytes = BytesOf(step);
+  bytes_ += step.Bytes;
   if (!is_changed_again) LetUndoneStepsBeginWith(change);
 }
 
@@ -121,13 +134,13 @@ void History::LetUndoneStepsBeginWith(const Change& change) {
 void History::ForgetUndone() {
   if (saved_ > static_cast<std::ptrdiff_t>(done_)) saved_ = -1;
   while (steps_.size() > done_) {
-    bytes_ -= BytesOf(steps_.back());
+    bytes_ -= steps_.back().Bytes;
     steps_.pop_back();
   }
 }
 
 void History::ForgetOldest() {
-  bytes_ -= BytesOf(steps_.front());
+  bytes_ -= steps_.front().Bytes;
   steps_.pop_front();
   --done_;
   --saved_;

@@ -25,7 +25,8 @@ struct Records {
   decltype(Global::MusicLinks) MusicLinks;
 };
 
-Records RecordsOf(const Global& global);
+/// Makes records those of the document.
+void Follow(const Global& global, Records& records);
 
 /// One record that a step has changed.
 struct Change {
@@ -42,6 +43,7 @@ struct Step {
   Place Before;
   Place After;
   std::size_t Showing = 0;  ///< of a page that was stored and stayed in the fields: which showing of it
+  std::size_t Bytes = 0;    ///< what the history counts for it
 
   bool IsEmpty() const { return Pages.empty() && MusicLinks.empty(); }
 };

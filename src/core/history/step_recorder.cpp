@@ -22,20 +22,22 @@ bool IsTyped(const Global& global, const Shown& shown) {
 
 void StepRecorder::Start() {
   history_.Start();
+  document_ = {};
   before_.reset();
 }
 
 void StepRecorder::Begin(const Global& global, Shown shown) {
-  before_ = {RecordsOf(global), std::move(shown)};
+  Follow(global, document_);
+  before_ = std::move(shown);
   name_.clear();
   is_saved_ = false;
 }
 
 void StepRecorder::End(const Global& global, const Shown& shown) {
   if (!before_) return;
-  Moment before = std::move(*before_);
+  const Shown before = std::move(*before_);
   before_.reset();
-  const Step changed = Difference(before.Document, global);
+  const Step changed = Difference(document_, global);
   if (IsOnlyRewritten(before, changed)) {
     history_.Amend(changed.Pages.front());
   } else {
@@ -46,60 +48,57 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
 }
 
 /// Whether all that the command did was to store a page as the editor writes it, without anything typed.
-bool StepRecorder::IsOnlyRewritten(const Moment& before, const Step& changed) const {
-  const Shown& editor = before.Editor;
+bool StepRecorder::IsOnlyRewritten(const Shown& editor, const Step& changed) const {
   if (changed.Pages.size() != 1 || !changed.MusicLinks.empty()) return false;
   const Change& change = changed.Pages.front();
   return change.Number == editor.At.Page && editor.Rewritten && change.After == *editor.Rewritten;
 }
 
 /// Makes a step of its own of what was typed on the page, whether the command has stored it or dropped it.
-void StepRecorder::AddTyped(Moment& before, const Global& global, std::size_t showing) {
-  const Shown& editor = before.Editor;
+void StepRecorder::AddTyped(const Shown& editor, const Global& global, std::size_t showing) {
   const Record& now = global.Page(editor.At.Page);
   const bool is_rewritten = editor.Rewritten && now == *editor.Rewritten;
   if (showing != editor.Showing) {
     // What was stored is shared with the document, not kept twice.
-    AddStored(before, now == editor.Typed ? now : Record(editor.Typed), 0);
+    AddStored(editor, now == editor.Typed ? now : Record(editor.Typed), 0);
   } else if (!is_rewritten) {
-    AddStored(before, now, showing);
+    AddStored(editor, now, showing);
   }
 }
 
-void StepRecorder::AddStored(Moment& before, const Record& stored, std::size_t showing) {
-  const int number = before.Editor.At.Page;
-  Record& page = before.Document.Pages.at(static_cast<std::size_t>(number));
+void StepRecorder::AddStored(const Shown& editor, const Record& stored, std::size_t showing) {
+  const int number = editor.At.Page;
+  Record& page = document_.Pages.at(static_cast<std::size_t>(number));
   if (page == stored) return;
   history_.Add({.Name = EditName(number),
                 .Pages = {{number, page, stored}},
                 .MusicLinks = {},
-                .Before = before.Editor.At,
-                .After = before.Editor.At,
+                .Before = editor.At,
+                .After = editor.At,
                 .Showing = showing});
   page = stored;
 }
 
-void StepRecorder::AddRest(const Moment& before, const Global& global, const Place& after) {
-  Step step = Difference(before.Document, global);
+void StepRecorder::AddRest(const Shown& editor, const Global& global, const Place& after) {
+  Step step = Difference(document_, global);
   if (step.IsEmpty()) return;
   step.Name = name_.empty() ? NameAfterChange(step) : std::move(name_);
-  step.Before = before.Editor.At;
+  step.Before = editor.At;
   step.After = after;
   history_.Add(std::move(step));
 }
 
 const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>& with_redo) {
-  if (!before_ || !UndoName(global, before_->Editor)) return nullptr;
-  Moment before = std::move(*before_);
+  if (!before_ || !UndoName(global, *before_)) return nullptr;
+  const Shown before = std::move(*before_);
   before_.reset();
   const Step* undone = nullptr;
-  if (IsTyped(global, before.Editor)) {
-    const std::size_t steps = StepsSinceTyped(before.Editor);
+  if (IsTyped(global, before)) {
+    const std::size_t steps = StepsSinceTyped(before);
     for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
-    if (steps == 0) AddStored(before, global.Page(before.Editor.At.Page) = before.Editor.Typed, 0);
+    if (steps == 0) AddStored(before, global.Page(before.At.Page) = before.Typed, 0);
   }
-  if (with_redo && *with_redo != before.Editor.Typed)
-    undone = &AddTakenBack(global, before.Editor, *with_redo);
+  if (with_redo && *with_redo != before.Typed) undone = &AddTakenBack(global, before, *with_redo);
   return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
 }
 
@@ -114,7 +113,7 @@ const Step& StepRecorder::AddTakenBack(Global& global, const Shown& shown, const
 }
 
 const Step* StepRecorder::Redo(Global& global) {
-  if (!before_ || !RedoName(global, before_->Editor)) return nullptr;
+  if (!before_ || !RedoName(global, *before_)) return nullptr;
   before_.reset();
   return &history_.Redo(global);
 }

@@ -52,21 +52,16 @@ class StepRecorder {
   bool IsSaved() const { return history_.IsSaved(); }
 
  private:
-  /// The document and the editor when the running command began.
-  struct Moment {
-    Records Document;
-    Shown Editor;
-  };
-
-  bool IsOnlyRewritten(const Moment& before, const Step& changed) const;
-  void AddTyped(Moment& before, const Global& global, std::size_t showing);
-  void AddStored(Moment& before, const Record& stored, std::size_t showing);
+  bool IsOnlyRewritten(const Shown& editor, const Step& changed) const;
+  void AddTyped(const Shown& editor, const Global& global, std::size_t showing);
+  void AddStored(const Shown& editor, const Record& stored, std::size_t showing);
   const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);
-  void AddRest(const Moment& before, const Global& global, const Place& after);
+  void AddRest(const Shown& editor, const Global& global, const Place& after);
   std::size_t StepsSinceTyped(const Shown& shown) const;
 
   History history_;
-  std::optional<Moment> before_;  ///< none while no command runs that can leave a step
+  Records document_;             ///< as it was when the running command began
+  std::optional<Shown> before_;  ///< the editor then; none while no command runs that can leave a step
   std::string name_;
   bool is_saved_ = false;
 };

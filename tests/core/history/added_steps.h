@@ -7,6 +7,10 @@
 
 namespace tavrel::test {
 
+inline Records RecordsOf(const Global& global) {
+  return {global.Pages, global.MusicLinks};
+}
+
 inline Step PageStep(int page, Record before, Record after, std::string name = "step") {
   return {.Name = std::move(name),
           .Pages = {{page, std::move(before), std::move(after)}},
