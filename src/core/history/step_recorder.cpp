@@ -37,12 +37,12 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
   if (!before_) return;
   const Shown before = std::move(*before_);
   before_.reset();
-  const Step changed = Difference(document_, global);
+  Step changed = Difference(document_, global);
   if (IsOnlyRewritten(before, changed)) {
     history_.Amend(changed.Pages.front());
   } else {
-    AddTyped(before, global, shown.Showing);
-    AddRest(before, global, shown.At);
+    if (AddTyped(before, global, shown.Showing)) changed = Difference(document_, global);
+    AddCommand(std::move(changed), before.At, shown.At);
   }
   if (is_saved_) history_.MarkSaved();
 }
@@ -55,21 +55,21 @@ bool StepRecorder::IsOnlyRewritten(const Shown& editor, const Step& changed) con
 }
 
 /// Makes a step of its own of what was typed on the page, whether the command has stored it or dropped it.
-void StepRecorder::AddTyped(const Shown& editor, const Global& global, std::size_t showing) {
+/// False if there was nothing.
+bool StepRecorder::AddTyped(const Shown& editor, const Global& global, std::size_t showing) {
   const Record& now = global.Page(editor.At.Page);
   const bool is_rewritten = editor.Rewritten && now == *editor.Rewritten;
   if (showing != editor.Showing) {
     // What was stored is shared with the document, not kept twice.
-    AddStored(editor, now == editor.Typed ? now : Record(editor.Typed), 0);
-  } else if (!is_rewritten) {
-    AddStored(editor, now, showing);
+    return AddStored(editor, now == editor.Typed ? now : Record(editor.Typed), 0);
   }
+  return !is_rewritten && AddStored(editor, now, showing);
 }
 
-void StepRecorder::AddStored(const Shown& editor, const Record& stored, std::size_t showing) {
+bool StepRecorder::AddStored(const Shown& editor, const Record& stored, std::size_t showing) {
   const int number = editor.At.Page;
   Record& page = document_.Pages.at(static_cast<std::size_t>(number));
-  if (page == stored) return;
+  if (page == stored) return false;
   history_.Add({.Name = EditName(number),
                 .Pages = {{number, page, stored}},
                 .MusicLinks = {},
@@ -77,13 +77,13 @@ void StepRecorder::AddStored(const Shown& editor, const Record& stored, std::siz
                 .After = editor.At,
                 .Showing = showing});
   page = stored;
+  return true;
 }
 
-void StepRecorder::AddRest(const Shown& editor, const Global& global, const Place& after) {
-  Step step = Difference(document_, global);
+void StepRecorder::AddCommand(Step step, const Place& before, const Place& after) {
   if (step.IsEmpty()) return;
   step.Name = name_.empty() ? NameAfterChange(step) : std::move(name_);
-  step.Before = editor.At;
+  step.Before = before;
   step.After = after;
   history_.Add(std::move(step));
 }

@@ -53,10 +53,10 @@ class StepRecorder {
 
  private:
   bool IsOnlyRewritten(const Shown& editor, const Step& changed) const;
-  void AddTyped(const Shown& editor, const Global& global, std::size_t showing);
-  void AddStored(const Shown& editor, const Record& stored, std::size_t showing);
+  bool AddTyped(const Shown& editor, const Global& global, std::size_t showing);
+  bool AddStored(const Shown& editor, const Record& stored, std::size_t showing);
   const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);
-  void AddRest(const Shown& editor, const Global& global, const Place& after);
+  void AddCommand(Step step, const Place& before, const Place& after);
   std::size_t StepsSinceTyped(const Shown& shown) const;
 
   History history_;
