@@ -15,7 +15,7 @@ set(TAVREL_COPYRIGHT "${CMAKE_MATCH_1}")
 string(REPLACE "\n\n" "\n.\n" license "${CMAKE_MATCH_2}")
 string(REPLACE "\n" "\n " TAVREL_LICENSE " ${license}")
 
-foreach(input changelog copyright tavrel-writer.1 tavrel-writer.metainfo.xml)
+foreach(input changelog copyright tavrel-writer.1 tavrel-notes.1 tavrel-writer.metainfo.xml)
   configure_file(packaging/debian/${input}.in ${TAVREL_PACKAGED}/${input} @ONLY)
 endforeach()
 
@@ -40,20 +40,24 @@ endfunction()
 tavrel_gzip(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog.gz)
 tavrel_gzip(${TAVREL_PACKAGED}/changelog changelog.Debian.gz)
 tavrel_gzip(${TAVREL_PACKAGED}/tavrel-writer.1 tavrel-writer.1.gz)
+tavrel_gzip(${TAVREL_PACKAGED}/tavrel-notes.1 tavrel-notes.1.gz)
 get_property(gzipped GLOBAL PROPERTY TAVREL_GZIPPED)
 add_custom_target(tavrel_package_files ALL DEPENDS ${gzipped})
 
 install(PROGRAMS $<TARGET_FILE:tavrel_writer> DESTINATION ${CMAKE_INSTALL_BINDIR} RENAME ${TAVREL_PACKAGE})
+install(PROGRAMS $<TARGET_FILE:tavrel_notes> DESTINATION ${CMAKE_INSTALL_BINDIR})
 # CMake would strip only a target that is installed under its own name.
 install(CODE "
   if(CMAKE_INSTALL_DO_STRIP)
-    execute_process(COMMAND ${CMAKE_STRIP} --strip-unneeded --remove-section=.comment --remove-section=.note
-      \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/${TAVREL_PACKAGE}\" COMMAND_ERROR_IS_FATAL ANY)
+    foreach(program ${TAVREL_PACKAGE} tavrel-notes)
+      execute_process(COMMAND ${CMAKE_STRIP} --strip-unneeded --remove-section=.comment --remove-section=.note
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/\${program}\" COMMAND_ERROR_IS_FATAL ANY)
+    endforeach()
   endif()")
 install(FILES packaging/debian/tavrel-writer.desktop DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications)
 install(FILES ${TAVREL_PACKAGED}/tavrel-writer.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/metainfo
   RENAME ${TAVREL_COMPONENT}.metainfo.xml)
-install(FILES ${TAVREL_PACKAGED}/tavrel-writer.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${TAVREL_PACKAGED}/tavrel-writer.1.gz ${TAVREL_PACKAGED}/tavrel-notes.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${TAVREL_PACKAGED}/copyright ${TAVREL_PACKAGED}/changelog.gz ${TAVREL_PACKAGED}/changelog.Debian.gz
   DESTINATION ${TAVREL_DOCS})
 foreach(size 16 24 32 48 64 128 256)

@@ -56,6 +56,7 @@ Section "Install"
   !insertmacro STOP_IF_RUNNING
   SetOutPath "$INSTDIR"
   File "${PROGRAM}\tavrel_writer.exe"
+  File "${PROGRAM}\tavrel-notes.exe"
   File "${PROGRAM}\Licence.txt"
   File "${PROGRAM}\Third parties.txt"
   File "${PROGRAM}\Notices.txt"
@@ -81,6 +82,7 @@ SectionEnd
 Section "Uninstall"
   !insertmacro STOP_IF_RUNNING
   Delete "$INSTDIR\tavrel_writer.exe"
+  Delete "$INSTDIR\tavrel-notes.exe"
   Delete "$INSTDIR\Licence.txt"
   Delete "$INSTDIR\Third parties.txt"
   Delete "$INSTDIR\Notices.txt"
