@@ -99,9 +99,8 @@ DocumentLines LinesOf(std::string_view text) {
     } else if (index < 0 || index > last) {
       numbers.Damaged = number;
       break;
-    } else {
-      const auto entry = static_cast<std::size_t>(index);
-      (is_behind_music_links ? numbers.Pages.at(entry) : numbers.MusicLinks.at(entry)) = number;
+    } else if (is_behind_music_links) {
+      numbers.Pages.at(static_cast<std::size_t>(index)) = number;
     }
     if (lines.AtEnd() && !is_behind_music_links) numbers.Damaged = number;
   }

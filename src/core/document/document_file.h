@@ -33,10 +33,9 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
 /// the text ends before the empty line.
 void ReadDocumentText(std::string_view text, Global& global);
 
-/// The lines of a document file, from 1, that entries stand in; 0 for those that it does not have.
+/// The lines of a document file, from 1, that pages stand in; 0 for those that it does not have.
 struct DocumentLines {
   std::array<int, 1001> Pages{};
-  std::array<int, 101> MusicLinks{};
   int Damaged = 0;  ///< the line at which ReadDocumentText would throw
 };
 

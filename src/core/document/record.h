@@ -5,6 +5,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace tavrel {
 
@@ -32,11 +33,11 @@ class Record {
   void clear() { bytes_.reset(); }
   // NOLINTEND(readability-identifier-naming)
   Record& operator+=(std::string_view more);
+  Record& operator+=(char more) { return *this += std::string_view(&more, 1); }
   /// Takes these bytes. If they are the same, copies go on sharing them.
   void Update(std::string bytes);
   /// Whether both have the very same bytes, not only equal ones.
   bool Shares(const Record& other) const { return bytes_ == other.bytes_; }
-  Record& operator+=(char more) { return *this += std::string_view(&more, 1); }
 
   friend bool operator==(const Record& one, const Record& other) {
     return one.bytes_ == other.bytes_ || one.Bytes() == other.Bytes();

@@ -90,8 +90,8 @@ class History {
   std::deque<Step> steps_;
   std::vector<Change> head_;  ///< what has changed before the first step
   std::size_t done_ = 0;      ///< so many steps are not taken back
-  std::ptrdiff_t saved_ =
-      0;  ///< so many were done when the document was saved; negative: it cannot be reached
+  /// So many were done when the document was saved; negative: that cannot be reached.
+  std::ptrdiff_t saved_ = 0;
   std::size_t bytes_ = 0;
 };
 

@@ -15,8 +15,8 @@ struct Shown {
   Place At;
   std::string Typed;        ///< the page's record as it would be if all that is typed were stored
   std::size_t Showing = 0;  ///< another number each time that a page is brought into the fields
-  std::optional<std::string> Rewritten =
-      {};  ///< what storing would make of a page that nobody has touched; nothing if the same
+  /// What storing would make of a page that nobody has touched; nothing if the same.
+  std::optional<std::string> Rewritten = {};
   std::string AtFirst = {};  ///< what storing would have made of it when it was brought into the fields
 };
 
