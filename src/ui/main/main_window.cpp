@@ -157,8 +157,7 @@ std::string Main::RecordOfFields() const {
 }
 
 std::string Main::TypedPage() const {
-  std::string typed = RecordOfFields();
-  return typed == shown_record_ ? app_.State.Page(app_.State.CurrentPage).Bytes() : typed;
+  return Now().Typed;
 }
 
 QWidget* Main::ControlWithFocus() const {
