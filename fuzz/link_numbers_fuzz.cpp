@@ -25,7 +25,7 @@ void ExpectRenumbered(const std::string& record, const LiteralRule& rule) {
 }
 
 void ExpectSamePages(const Global& actual, const Global& expected) {
-  for (int page = 0; page <= kLastPage + 1; ++page) {
+  for (int page = 0; page <= kLastRecord; ++page) {
     ExpectEqual(actual.Page(page), expected.Page(page), "same page");
   }
   ExpectEqual(actual.PageClipboard, expected.PageClipboard, "same clipboard");

@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const auto kGlobal = std::make_unique<Global>();
   Global& global = *kGlobal;
   Input input(data, size);
-  const int page = input.Choice(2) == 0 ? 1 : kLastPage + 1;
+  const int page = input.Choice(2) == 0 ? 1 : kLastRecord;
   const bool match_case = input.Choice(2) == 1;
   const std::string wanted(input.Line());
   const std::string replacement(input.Line());

@@ -9,7 +9,7 @@
 namespace tavrel::test {
 namespace {
 
-std::string Link(const std::string& text, int page) {
+std::string LinkTo(const std::string& text, int page) {
   return "<linktext>" + Trimmed(text) + "</linktext><linkto>" + LiteralFormat(page) + "</linkto>";
 }
 
@@ -43,10 +43,10 @@ std::optional<std::vector<std::string>> LiteralPlanPages(const std::map<std::str
     if (!t.empty()) {
       page = "<text>" + t + "</text><note>" + t.substr(0, 50) + "</note>";
       std::string links;
-      if (text("Check1" + cell) == "1") links += Link(west, p - 1 < 1 ? 1 : p - 1);
-      if (text("Check4" + cell) == "1") links += Link(north, p < 6 ? 1 : p - 5);
-      if (text("Check2" + cell) == "1") links += Link(east, p + 1);
-      if (text("Check3" + cell) == "1") links += Link(south, p + 5);
+      if (text("Check1" + cell) == "1") links += LinkTo(west, p - 1 < 1 ? 1 : p - 1);
+      if (text("Check4" + cell) == "1") links += LinkTo(north, p < 6 ? 1 : p - 5);
+      if (text("Check2" + cell) == "1") links += LinkTo(east, p + 1);
+      if (text("Check3" + cell) == "1") links += LinkTo(south, p + 5);
       if (!links.empty()) page += "<link>" + links + "</link>";
     }
     pages.push_back(page);

@@ -57,7 +57,7 @@ void Model::ObserveCovered(const Screen& screen) {
 }
 
 void Model::Compare(const Global& global, const Screen& screen) const {
-  for (int page = 0; !IsSame(global.Pages, editor_.Pages) && page <= kLastPage + 1; ++page) {
+  for (int page = 0; !IsSame(global.Pages, editor_.Pages) && page <= kLastRecord; ++page) {
     ExpectSame(global.Page(page), editor_.Pages.at(static_cast<std::size_t>(page)),
                "page " + std::to_string(page));
   }

@@ -20,14 +20,14 @@ using testing::ThrowsMessage;
 using Operation = FailingFiles::Operation;
 using FileMap = std::map<std::string, std::string>;
 
-const std::string kNew = "note\r\n\0\xE9"s;
+const std::string kNote = "note\r\n\0\xE9"s;
 
 class PlainFileTest : public testing::Test {
  protected:
   fs::path File() const { return Folder.Path() / "z001.txt"; }
 
   void ExpectErrorNamingTheFile() {
-    EXPECT_THAT([&] { WritePlainFile(Files, File(), kNew); },
+    EXPECT_THAT([&] { WritePlainFile(Files, File(), kNote); },
                 ThrowsMessage<FileError>(HasSubstr(PathText(File()))));
   }
 
@@ -36,26 +36,26 @@ class PlainFileTest : public testing::Test {
 };
 
 TEST_F(PlainFileTest, MakesAFile) {
-  WritePlainFile(Files, File(), kNew);
-  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNew}}));
+  WritePlainFile(Files, File(), kNote);
+  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNote}}));
 }
 
 TEST_F(PlainFileTest, ReplacesALongerFile) {
   Folder.Write("z001.txt", "a longer text from before");
-  WritePlainFile(Files, File(), kNew);
-  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNew}}));
+  WritePlainFile(Files, File(), kNote);
+  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNote}}));
 }
 
 TEST_F(PlainFileTest, DoesNotWaitForTheDisk) {
   RecordingFiles files;
-  WritePlainFile(files, File(), kNew);
+  WritePlainFile(files, File(), kNote);
   EXPECT_THAT(files.Calls, ElementsAre("CreateOrEmpty", "Write", "Close"));
 }
 
 TEST_F(PlainFileTest, GoesOnAfterShortWrites) {
   Files.CutWritesAt(3);
-  WritePlainFile(Files, File(), kNew);
-  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNew}}));
+  WritePlainFile(Files, File(), kNote);
+  EXPECT_EQ(Folder.Files(), (FileMap{{"z001.txt", kNote}}));
 }
 
 TEST_F(PlainFileTest, RemovesAFileThatIsNotWrittenToItsEnd) {
@@ -95,7 +95,7 @@ TEST_F(PlainFileTest, NeverReplacesAFolder) {
 
 TEST_F(PlainFileTest, NamesAFileWhoseFolderIsGone) {
   const fs::path file = Folder.Path() / "gone" / "z001.txt";
-  EXPECT_THAT([&] { WritePlainFile(Files, file, kNew); },
+  EXPECT_THAT([&] { WritePlainFile(Files, file, kNote); },
               ThrowsMessage<FileError>(HasSubstr(PathText(file))));
 }
 

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "process/process_test.h"
 #include "support/temporary_folder.h"
 
 // The companion for the command line, run as people and scripts run it.
@@ -13,8 +14,6 @@ namespace tavrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr int kPatience = 60000;
 
 /// Two linked pages; page 2 stands in line 4.
 const std::string kSound =

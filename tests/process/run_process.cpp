@@ -7,12 +7,6 @@ namespace tavrel::test {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-constexpr int kPatience = 60000;
-
-}  // namespace
-
 const char* const kPortableSettings = "a\nb\nc\nd\n\n\n\n\n\n0\n\n\n\n\n\n\n\n\n\n\n";
 
 void ProcessTest::SetUp() {

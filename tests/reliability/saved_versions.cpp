@@ -16,8 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kSmallVersions = 1'000'000;  ///< versions from here on are small ones only
-
 std::string Mark(int version) {
   return "<note>version " + std::to_string(version) + "</note>";
 }

@@ -11,6 +11,8 @@ namespace tavrel::test {
 // Files of many versions, which can all be told from each other. Those that follow one another are of
 // different sizes, and each part of a file tells its version.
 
+inline constexpr int kSmallVersions = 1'000'000;  ///< versions from here on are small ones only
+
 /// Saves a version of a document: one page, forty or a full-size document.
 void SaveDocumentVersion(int version, const std::filesystem::path& folder, Platform& platform);
 /// Whether a document or backup opens and is wholly of that version.

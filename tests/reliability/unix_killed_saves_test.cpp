@@ -43,8 +43,6 @@ void PrintTo(const KilledSave& save, std::ostream* out) {
   *out << save.Title;
 }
 
-constexpr int kSmallVersions = 1'000'000;
-
 const KilledSave kSaves[] = {
     {"Document", 1, SaveDocumentVersion,
      [](int version, const fs::path& folder, Platform& /*platform*/) {

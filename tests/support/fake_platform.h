@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
@@ -10,6 +11,11 @@
 #include "support/failing_files.h"
 
 namespace tavrel::test {
+
+/// Types of registry values.
+inline constexpr std::uint32_t kRegistryString = 1;
+inline constexpr std::uint32_t kRegistryExpandable = 2;
+inline constexpr std::uint32_t kRegistryNumber = 4;
 
 /// A platform whose volumes and file faults a test decides.
 class FakePlatform final : public Platform {

@@ -5,16 +5,13 @@
 
 #include "core/document/markup.h"
 #include "core/document/page_record.h"
+#include "core/text/characters.h"
 #include "core/text/numbers.h"
 
 namespace tavrel {
 namespace {
 
 using Kind = LinkTarget::Kind;
-
-bool IsDigit(char character) {
-  return character >= '0' && character <= '9';
-}
 
 LinkTarget PageTarget(const Global& global, std::string_view target) {
   const int number = WholeValue(target);

@@ -3,11 +3,10 @@
 #include <algorithm>
 
 #include "core/document/markup.h"
+#include "core/text/characters.h"
 
 namespace tavrel {
 namespace {
-
-constexpr auto kNotFound = std::string_view::npos;
 
 InlineLink LinkAt(std::string_view text, std::size_t opening, std::size_t next) {
   const bool is_closed = next != kNotFound && text[next] == '>';

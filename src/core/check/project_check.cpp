@@ -96,7 +96,7 @@ class ProjectCheck {
   void CheckUnstored() {
     if (!global_.MusicLink(kLastMusicLink).empty())
       Add(0, Field::Project, "Music link M100 is not stored in the project's file.");
-    if (!global_.Page(kLastPage + 1).empty())
+    if (!global_.Page(kLastRecord).empty())
       Add(0, Field::Project, "A page 1000 is neither stored nor published.");
   }
 

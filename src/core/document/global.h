@@ -11,6 +11,7 @@
 namespace tavrel {
 
 inline constexpr int kLastPage = 999;       ///< pages are numbered 1 to 999
+inline constexpr int kLastRecord = 1000;    ///< files may hold one record more, which is no page
 inline constexpr int kLastMusicLink = 100;  ///< music links are numbered 1 to 100
 inline constexpr int kLastLink = 49;        ///< links of one page are numbered 1 to 49
 inline constexpr int kLastSetting = 20;     ///< settings are numbered 1 to 20

@@ -1,9 +1,9 @@
 #include "core/document/markup.h"
 
+#include "core/text/characters.h"
+
 namespace tavrel {
 namespace {
-
-constexpr auto kNotFound = std::string_view::npos;
 
 /// Finds a tag as text.find(tag, from) does. Records are full of tags that begin alike, so its second and
 /// last characters are looked at before the whole is compared.

@@ -10,7 +10,7 @@ namespace tavrel {
 namespace {
 
 /// A target that gets a new number.
-struct Change {
+struct Renumbering {
   std::size_t Start;
   std::size_t Length;
   int Number;
@@ -18,9 +18,9 @@ struct Change {
   std::size_t End() const { return Start + Length; }
 };
 
-using Changes = std::vector<Change>;
+using Renumberings = std::vector<Renumbering>;
 
-void FindChanges(std::string_view record, const LinkRule& rule, Changes& changes) {
+void FindChanges(std::string_view record, const LinkRule& rule, Renumberings& changes) {
   changes.clear();
   TagWalker links(record, "<linkto>");
   while (links.Next()) {
@@ -36,7 +36,7 @@ void FindChanges(std::string_view record, const LinkRule& rule, Changes& changes
 
 /// Writes a number of three digits over as many characters, as nearly all targets have; false if either has
 /// not so many.
-bool Overwrite(std::string& record, const Change& change) {
+bool Overwrite(std::string& record, const Renumbering& change) {
   if (change.Length != 3 || change.Number < 0 || change.Number > kLastPage) return false;
   char* digit = record.data() + change.Start;
   digit[0] = static_cast<char>('0' + change.Number / 100);
@@ -45,10 +45,10 @@ bool Overwrite(std::string& record, const Change& change) {
   return true;
 }
 
-void Apply(const Changes& changes, std::string& record) {
+void Apply(const Renumberings& changes, std::string& record) {
   std::string renumbered;
   std::size_t copied = 0;
-  for (const Change& change : changes) {
+  for (const Renumbering& change : changes) {
     if (Overwrite(record, change)) continue;
     renumbered.append(record, copied, change.Start - copied).append(FormatPage(change.Number));
     copied = change.End();
@@ -59,13 +59,13 @@ void Apply(const Changes& changes, std::string& record) {
 }  // namespace
 
 void RenumberLinks(std::string& record, const LinkRule& rule) {
-  Changes changes;
+  Renumberings changes;
   FindChanges(record, rule, changes);
   Apply(changes, record);
 }
 
 void RenumberLinks(Global& global, const LinkRule& rule) {
-  Changes changes;
+  Renumberings changes;
   for (int page = 1; page <= kLastPage; ++page) {
     FindChanges(global.Page(page), rule, changes);
     if (!changes.empty()) Apply(changes, global.Page(page).Edit());

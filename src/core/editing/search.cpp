@@ -9,7 +9,6 @@ namespace tavrel {
 namespace {
 
 constexpr const char* kText = "<text>";
-constexpr int kLastRecord = kLastPage + 1;
 
 /// Replacements within replacements must not fill the memory.
 constexpr std::size_t kMostGrowth = 20'000'000;

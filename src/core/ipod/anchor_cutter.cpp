@@ -2,15 +2,14 @@
 
 #include <algorithm>
 
+#include "core/text/characters.h"
 #include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
 
-constexpr std::string_view kOpening = "<a href=";
-constexpr std::string_view kClosing = "</a>";
-constexpr auto kNotFound = std::string_view::npos;
-
+constexpr std::string_view kAnchorOpening = "<a href=";
+constexpr std::string_view kAnchorClosing = "</a>";
 [[noreturn]] void ThrowUnclosed() {
   throw RunTimeError(
       "The target of a link has no closing quote.\nCorrect it in a text editor and import again.");
@@ -20,15 +19,15 @@ constexpr auto kNotFound = std::string_view::npos;
 
 std::optional<std::string> AnchorCutter::CutNext() {
   if (!PassThroughOpening()) return std::nullopt;
-  passed_.resize(passed_.size() - kOpening.size());
+  passed_.resize(passed_.size() - kAnchorOpening.size());
   std::string target = TakeTarget();
   CutClosing();
   return target;
 }
 
 bool AnchorCutter::PassThroughOpening() {
-  while (PassThrough(kOpening.back())) {
-    if (passed_.ends_with(kOpening)) return true;
+  while (PassThrough(kAnchorOpening.back())) {
+    if (passed_.ends_with(kAnchorOpening)) return true;
   }
   return false;
 }
@@ -57,20 +56,20 @@ std::string AnchorCutter::TakeTargetOfNote() {
 
 void AnchorCutter::CutClosing() {
   while (true) {
-    const std::size_t bracket = note_.find(kClosing.back(), at_);
+    const std::size_t bracket = note_.find(kAnchorClosing.back(), at_);
     if (bracket == kNotFound)
       throw RunTimeError("A link has no </a> at its end.\nCorrect it in a text editor and import again.");
     const std::string_view part = note_.substr(at_, bracket + 1 - at_);
     at_ = bracket + 1;
-    if (ahead_.empty() && part.ends_with(kClosing) && part.find(kOpening.back()) == kNotFound) {
+    if (ahead_.empty() && part.ends_with(kAnchorClosing) && part.find(kAnchorOpening.back()) == kNotFound) {
       // No anchor begins within this one: its text need not be looked at again.
-      passed_ += part.substr(0, part.size() - kClosing.size());
+      passed_ += part.substr(0, part.size() - kAnchorClosing.size());
       return;
     }
     ahead_ += part;
-    if (std::string_view(ahead_).substr(ahead_at_).ends_with(kClosing)) break;
+    if (std::string_view(ahead_).substr(ahead_at_).ends_with(kAnchorClosing)) break;
   }
-  ahead_.resize(ahead_.size() - kClosing.size());
+  ahead_.resize(ahead_.size() - kAnchorClosing.size());
 }
 
 /// Passes everything through the next `last`; all of it, and false, if there is none.

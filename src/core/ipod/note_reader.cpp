@@ -6,6 +6,7 @@
 
 #include "core/document/markup.h"
 #include "core/ipod/anchor_cutter.h"
+#include "core/text/characters.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/run_time_error.h"
@@ -15,9 +16,6 @@ namespace tavrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr auto kNotFound = std::string_view::npos;
-constexpr int kLastRecord = kLastPage + 1;
 
 /// Finds one byte again and again, each time only as far as the next one.
 class NextByte {

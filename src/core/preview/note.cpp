@@ -4,11 +4,10 @@
 #include <utility>
 
 #include "core/ipod/device_limits.h"
+#include "core/text/characters.h"
 
 namespace tavrel {
 namespace {
-
-constexpr auto kNotFound = std::string_view::npos;
 
 char Lower(char character) {
   return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;

@@ -8,14 +8,11 @@
 #include <locale>
 #include <sstream>
 
+#include "core/text/characters.h"
 #include "core/text/file_names.h"
 
 namespace tavrel {
 namespace {
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
   while (at < text.size() && IsDigit(text[at])) ++at;

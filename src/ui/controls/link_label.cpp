@@ -7,7 +7,7 @@
 namespace tavrel {
 namespace {
 
-constexpr int kMargin = 2;
+constexpr int kLinkMargin = 2;
 
 /// Many dark palettes leave links in a blue that is meant for white paper.
 QColor ReadableLink(const QPalette& palette) {
@@ -31,7 +31,7 @@ LinkLabel::LinkLabel(QWidget* parent) : QAbstractButton(parent) {
 }
 
 QSize LinkLabel::sizeHint() const {
-  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * kMargin, 2 * kMargin);
+  return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * kLinkMargin, 2 * kLinkMargin);
 }
 
 void LinkLabel::keyPressEvent(QKeyEvent* event) {

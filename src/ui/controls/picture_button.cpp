@@ -6,7 +6,7 @@ namespace tavrel {
 namespace {
 
 constexpr int kPadding = 4;
-constexpr qreal kCorner = 4;
+constexpr qreal kButtonCorner = 4;
 
 }  // namespace
 
@@ -44,7 +44,7 @@ void PictureButton::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(pressed);
   }
   painter.setPen(border_style_ == 0 ? QPen(Qt::NoPen) : QPen(highlight));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), kButtonCorner, kButtonCorner);
   icon().paint(&painter, rect().adjusted(kPadding, kPadding, -kPadding, -kPadding));
 }
 

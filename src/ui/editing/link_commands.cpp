@@ -2,15 +2,9 @@
 
 #include "ui/controls/grid.h"
 #include "ui/main/editor.h"
+#include "ui/main/page_grids.h"
 
 namespace tavrel {
-namespace {
-
-constexpr int kTextColumn = 0;
-constexpr int kTargetColumn = 1;
-
-}  // namespace
-
 LinkCommands::LinkCommands(App& app, Editor& editor, Grid& links)
     : app_(app), editor_(editor), links_(links) {}
 

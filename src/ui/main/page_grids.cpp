@@ -9,8 +9,6 @@
 namespace tavrel {
 namespace {
 
-constexpr int kTextColumn = 0;
-constexpr int kTargetColumn = 1;
 constexpr int kPageColumn = 0;
 constexpr int kTitleColumn = 1;
 constexpr int kNoteColumn = 2;

@@ -14,6 +14,10 @@ class Main;
 
 namespace tavrel {
 
+/// Columns of the links' grid.
+inline constexpr int kTextColumn = 0;
+inline constexpr int kTargetColumn = 1;
+
 /// The two grids of the main window: the links of the page and the pages of the document.
 class PageGrids {
   Q_DECLARE_TR_FUNCTIONS(PageGrids)

@@ -10,14 +10,14 @@ namespace {
 
 /// The room between two cells, where an arrow has its place.
 constexpr int kGap = 14;
-constexpr qreal kHead = 4;
+constexpr qreal kArrowHead = 4;
 
 /// An arrow across the gap beside a cell, from `start` towards `step`.
 void DrawArrow(QPainter& painter, const QPointF& start, const QPointF& step) {
   const QPointF tip = start + step * (kGap - 3);
   const QPointF side(step.y(), step.x());
-  painter.drawLine(start + step * 2, tip - step * kHead);
-  painter.drawPolygon(QPolygonF({tip, tip - (step - side) * kHead, tip - (step + side) * kHead}));
+  painter.drawLine(start + step * 2, tip - step * kArrowHead);
+  painter.drawPolygon(QPolygonF({tip, tip - (step - side) * kArrowHead, tip - (step + side) * kArrowHead}));
 }
 
 /// The arrows of one cell. Those of opposite directions stand beside each other in their gap.

@@ -19,7 +19,7 @@
 namespace tavrel {
 namespace {
 
-constexpr int kTimer1Interval = 500;
+constexpr int kLabelDelay = 500;
 
 // The navigation texts' numbers.
 constexpr std::size_t kNorth = 0;
@@ -39,7 +39,7 @@ Planner::Planner(App& app, Editor& editor, QWidget* main_window)
   setWindowFlags(Qt::Window);
   text3_ = {ui_->Text3_0, ui_->Text3_1, ui_->Text3_2, ui_->Text3_3};
   timer1_->setObjectName("Timer1");
-  timer1_->setInterval(kTimer1Interval);
+  timer1_->setInterval(kLabelDelay);
   PrepareControls();
   ui_->Map->SetCodePage(app_.CodePageInUse());
   ConnectControls();

@@ -16,8 +16,8 @@ namespace tavrel {
 namespace {
 
 constexpr qreal kSmallFont = 0.85;
-constexpr int kMargin = 4;
-constexpr qreal kCorner = 5;
+constexpr int kCellMargin = 4;
+constexpr qreal kCellCorner = 5;
 constexpr int kLeastLines = 2;
 
 }  // namespace
@@ -31,7 +31,7 @@ PlannerCell::PlannerCell(std::size_t index, QWidget* parent)
   east_ = AddTick("Check2", tr("East"));
   text_->setTabChangesFocus(true);
   text_->setFrameShape(QFrame::NoFrame);
-  text_->setMinimumHeight(kLeastLines * text_->fontMetrics().lineSpacing() + 2 * kMargin);
+  text_->setMinimumHeight(kLeastLines * text_->fontMetrics().lineSpacing() + 2 * kCellMargin);
   connect(text_, &BodyField::textChanged, this, [this] {
     update();
     emit Changed();
@@ -50,9 +50,9 @@ TickBox* PlannerCell::AddTick(const QString& array, const QString& caption) {
 
 void PlannerCell::LayOut() {
   auto* layout = new QGridLayout(this);
-  layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  layout->setContentsMargins(kCellMargin, kCellMargin, kCellMargin, kCellMargin);
   layout->setHorizontalSpacing(0);
-  layout->setVerticalSpacing(kMargin / 2);
+  layout->setVerticalSpacing(kCellMargin / 2);
   layout->addWidget(label_, 0, 0);
   layout->addWidget(north_, 0, 1, Qt::AlignHCenter);
   layout->addWidget(text_, 1, 0, 1, 3);
@@ -123,7 +123,7 @@ void PlannerCell::paintEvent(QPaintEvent* /*event*/) {
   const bool is_page = IsPage();
   painter.setBrush(palette().color(QPalette::Base));
   painter.setPen(QPen(palette().color(is_page ? QPalette::Highlight : QPalette::Mid), is_page ? 1.5 : 1));
-  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
+  painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCellCorner, kCellCorner);
 }
 
 }  // namespace tavrel

@@ -17,14 +17,14 @@ namespace tavrel {
 namespace {
 
 constexpr int kIconSize = 64;
-constexpr qreal kTitleFont = 2;
+constexpr qreal kAboutTitleFont = 2;
 
 }  // namespace
 
 About::About(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make_unique<Ui::About>()) {
   ui_->setupUi(this);
   PrepareControls();
-  ScaleFont(*ui_->lblTitle, kTitleFont);
+  ScaleFont(*ui_->lblTitle, kAboutTitleFont);
   On(app_.Control, ui_->cmdOK, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
   On(app_.Control, ui_->cmdSysInfo, &QPushButton::clicked, this, [this] { cmdSysInfo_Click(); });
   On(app_.Control, ui_->Label3, &LinkLabel::clicked, this, [this] { Label3_Click(); });

@@ -1,23 +1,6 @@
 #include "core/editing/literal_tags.h"
 
 namespace tavrel::test {
-namespace {
-
-std::string Closing(const std::string& tag) {
-  return tag.substr(0, 1) + "/" + tag.substr(1);
-}
-
-int OpeningPosition(const std::string& text, const std::string& tag, int occurrence) {
-  int pos = LiteralPosition(1, text, tag);
-  while (occurrence > 1 && pos > 0) {
-    occurrence = occurrence - 1;
-    pos = LiteralPosition(pos + 1, text, tag);
-  }
-  return pos;
-}
-
-}  // namespace
-
 int LiteralPosition(int from, const std::string& text, const std::string& part) {
   if (from > static_cast<int>(text.size())) return 0;
   const std::size_t found = text.find(part, static_cast<std::size_t>(from) - 1);
@@ -29,20 +12,33 @@ std::string LiteralCharacters(const std::string& text, int position, int count) 
   return text.substr(static_cast<std::size_t>(position) - 1, static_cast<std::size_t>(count));
 }
 
+std::string LiteralClosing(const std::string& tag) {
+  return tag.substr(0, 1) + "/" + tag.substr(1);
+}
+
+int LiteralOpening(const std::string& text, const std::string& tag, int occurrence) {
+  int pos = LiteralPosition(1, text, tag);
+  while (occurrence > 1 && pos > 0) {
+    occurrence = occurrence - 1;
+    pos = LiteralPosition(pos + 1, text, tag);
+  }
+  return pos;
+}
+
 std::string LiteralGetTag(const std::string& text, const std::string& tag, int occurrence) {
-  int pos = OpeningPosition(text, tag, occurrence);
+  int pos = LiteralOpening(text, tag, occurrence);
   if (pos < 1) return "";
   pos = pos + static_cast<int>(tag.size());
-  const int end = LiteralPosition(pos, text, Closing(tag));
+  const int end = LiteralPosition(pos, text, LiteralClosing(tag));
   if (end < 1 || pos >= end) return "";
   return LiteralCharacters(text, pos, end - pos);
 }
 
 void LiteralSetTag(std::string& text, const std::string& value, const std::string& tag, int occurrence) {
-  int pos = OpeningPosition(text, tag, occurrence);
+  int pos = LiteralOpening(text, tag, occurrence);
   if (pos < 1) return;
   pos = pos + static_cast<int>(tag.size()) - 1;
-  const int end = LiteralPosition(pos, text, Closing(tag));
+  const int end = LiteralPosition(pos, text, LiteralClosing(tag));
   if (end < 1) return;
   const int rest = static_cast<int>(text.size()) - end + 1;
   text = LiteralCharacters(text, 1, pos) + value + LiteralCharacters(text, end, rest);

@@ -12,6 +12,11 @@ int LiteralPosition(int from, const std::string& text, const std::string& part);
 /// `count` characters of a text from a position on, or as many as there are.
 std::string LiteralCharacters(const std::string& text, int position, int count);
 
+std::string LiteralClosing(const std::string& tag);
+
+/// Position of a tag's occurrence (from 1 on); 0 if there are fewer.
+int LiteralOpening(const std::string& text, const std::string& tag, int occurrence);
+
 std::string LiteralGetTag(const std::string& text, const std::string& tag, int occurrence);
 void LiteralSetTag(std::string& text, const std::string& value, const std::string& tag, int occurrence);
 

@@ -6,6 +6,7 @@
 
 #include "core/editing/document_of.h"
 #include "core/editing/search.h"
+#include "core/editing/searching.h"
 #include "core/editing/text_search.h"
 
 // Texts that nearly hold the searched one at every place. Looking at each place for itself would take minutes
@@ -14,23 +15,17 @@
 namespace tavrel::test {
 namespace {
 
-constexpr int kPages = 150;
+constexpr int kManyPages = 150;
 constexpr std::size_t kLongText = 32'000;
 
 const CodePage& Letters() {
   return CodePage::Windows1252();
 }
 
-std::string Repeated(std::size_t count, std::string_view text) {
-  std::string repeated;
-  for (; count > 0; --count) repeated += text;
-  return repeated;
-}
-
 /// A document whose first pages all have the text.
 std::unique_ptr<Global> DocumentWithTexts(const std::string& text) {
   auto global = std::make_unique<Global>();
-  for (int page = 1; page <= kPages; ++page) global->Page(page) = WithText(text);
+  for (int page = 1; page <= kManyPages; ++page) global->Page(page) = WithText(text);
   return global;
 }
 
@@ -82,7 +77,7 @@ TEST(RepetitiveText, IsReplacedOnAllPages) {
   const auto global = DocumentWithTexts(half + "bb" + half);
   ReplaceInPages(*global, half + "b", "", false, Letters());
   EXPECT_EQ(global->Page(1), WithText("b" + half));
-  EXPECT_EQ(global->Page(kPages), WithText("b" + half));
+  EXPECT_EQ(global->Page(kManyPages), WithText("b" + half));
 }
 
 TEST(RepetitiveText, IsSearchedWhereItWasPutIn) {
@@ -91,7 +86,7 @@ TEST(RepetitiveText, IsSearchedWhereItWasPutIn) {
   const auto global = DocumentWithTexts(as + "b");
   ReplaceInPages(*global, as + "b", as + as + as, true, Letters());
   EXPECT_EQ(global->Page(1), WithText(as + as + as));
-  EXPECT_EQ(global->Page(kPages), WithText(as + as + as));
+  EXPECT_EQ(global->Page(kManyPages), WithText(as + as + as));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "core/editing/document_of.h"
 #include "core/editing/search.h"
+#include "core/editing/searching.h"
 
 // Replacements that hold the searched text would be searched for ever, so a text is searched up to its
 // 32,767th character only.
@@ -12,21 +13,6 @@ namespace tavrel::test {
 namespace {
 
 constexpr std::size_t kLastPosition = 32767;
-
-std::string Repeated(std::size_t count, std::string_view text) {
-  std::string repeated;
-  for (; count > 0; --count) repeated += text;
-  return repeated;
-}
-
-std::string Replaced(const std::string& text, std::string_view wanted, std::string_view replacement,
-                     bool match_case = true) {
-  Global global;
-  global.Page(1) = WithText(text);
-  ReplaceInPages(global, wanted, replacement, match_case, CodePage::Windows1252());
-  const std::string& record = global.Page(1);
-  return record.substr(6, record.size() - 13);
-}
 
 /// Compares texts that are too long to be shown.
 testing::AssertionResult IsSame(const std::string& text, const std::string& expected) {

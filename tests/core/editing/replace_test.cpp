@@ -3,26 +3,14 @@
 
 #include "core/editing/document_of.h"
 #include "core/editing/search.h"
+#include "core/editing/searching.h"
 #include "support/fixtures.h"
 
 namespace tavrel::test {
 namespace {
 
-constexpr bool kMatchCase = true;
-constexpr bool kAnyCase = false;
-
 void Replace(Global& global, std::string_view wanted, std::string_view replacement, bool match_case) {
   ReplaceInPages(global, wanted, replacement, match_case, CodePage::Windows1252());
-}
-
-/// A text after the replacement.
-std::string Replaced(const std::string& text, std::string_view wanted, std::string_view replacement,
-                     bool match_case = kMatchCase) {
-  Global global;
-  global.Page(1) = WithText(text);
-  Replace(global, wanted, replacement, match_case);
-  const std::string& record = global.Page(1);
-  return record.substr(6, record.size() - 13);
 }
 
 TEST(ReplaceInPages, ReplacesEveryMatchOfAText) {

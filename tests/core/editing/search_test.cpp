@@ -4,13 +4,11 @@
 #include <string>
 
 #include "core/editing/document_of.h"
+#include "core/editing/searching.h"
 #include "support/fixtures.h"
 
 namespace tavrel::test {
 namespace {
-
-constexpr bool kMatchCase = true;
-constexpr bool kAnyCase = false;
 
 /// The page, and the position in its text from 0, of the first match; "none" without one.
 std::string Found(const Global& global, std::string_view wanted, int first_page, bool match_case) {

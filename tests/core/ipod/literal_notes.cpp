@@ -22,7 +22,8 @@ std::string Before(const std::string& text, int position) {
   return LiteralCharacters(text, 1, position - 1);
 }
 
-std::string Replaced(const std::string& text, const std::string& wanted, const std::string& replacement) {
+std::string LiteralReplaced(const std::string& text, const std::string& wanted,
+                            const std::string& replacement) {
   std::string result;
   std::string rest = text;
   for (int p = LiteralPosition(1, rest, wanted); p > 0; p = LiteralPosition(1, rest, wanted)) {
@@ -72,7 +73,7 @@ std::string GetText(const LiteralDocument& document, const std::string& text, co
   return result;
 }
 
-std::string Note(const LiteralDocument& document, int page, const PublishOptions& options) {
+std::string NoteOf(const LiteralDocument& document, int page, const PublishOptions& options) {
   const std::string record = At(document.Pages, page);
   std::string note = "<title>";
   if (page == 1) note += "-";
@@ -153,7 +154,7 @@ std::string LiteralFile(const LiteralDocument& document) {
   }
   file += "\r\n";
   for (int page = 0; page <= 999; ++page) {
-    const std::string record = Replaced(At(document.Pages, page), "\r\n", "<p>");
+    const std::string record = LiteralReplaced(At(document.Pages, page), "\r\n", "<p>");
     if (!record.empty()) file += " " + std::to_string(page) + " ," + record + "\r\n";
   }
   return file;
@@ -162,7 +163,7 @@ std::string LiteralFile(const LiteralDocument& document) {
 LiteralDocument LiteralSavedAndLoaded(LiteralDocument document) {
   document.Pages.erase(1000);
   document.MusicLinks.erase(100);
-  for (auto& [page, record] : document.Pages) record = Replaced(record, "<p>", "\r\n");
+  for (auto& [page, record] : document.Pages) record = LiteralReplaced(record, "<p>", "\r\n");
   return document;
 }
 
@@ -171,7 +172,7 @@ std::map<std::string, std::string> LiteralNotes(const LiteralDocument& document,
   std::map<std::string, std::string> notes;
   for (int page = 1; page <= 999; ++page) {
     if (At(document.Pages, page).empty()) continue;
-    notes["z" + LiteralFormat(page) + ".txt"] = Note(document, page, options);
+    notes["z" + LiteralFormat(page) + ".txt"] = NoteOf(document, page, options);
   }
   return notes;
 }
@@ -192,11 +193,11 @@ void LiteralReader::ProcessInput(const std::string& note, int page) {
   std::string content = " " + note + " ";
   std::string record = CutTitle(content);
 
-  content = Replaced(content, "<br>", "\r\n");
-  content = Replaced(content, "<p>", "\r\n");
-  content = Replaced(content, "</p>", "");
-  content = Replaced(content, "<body>", "");
-  content = Replaced(content, "</body>", "");
+  content = LiteralReplaced(content, "<br>", "\r\n");
+  content = LiteralReplaced(content, "<p>", "\r\n");
+  content = LiteralReplaced(content, "</p>", "");
+  content = LiteralReplaced(content, "<body>", "");
+  content = LiteralReplaced(content, "</body>", "");
 
   const int meta = LiteralPosition(1, content, "<meta ");
   const int meta_end = meta == 0 ? 0 : LiteralPosition(meta, content, ">");
@@ -233,7 +234,7 @@ std::string LiteralReader::ProcessMusic(const std::string& target) {
     const std::string rest = From(target, found + Length(key));
     const int end = LiteralPosition(1, rest, "&");
     // A record is one line of the document's file.
-    const std::string value = Replaced(end == 0 ? rest : Before(rest, end), "\r\n", " ");
+    const std::string value = LiteralReplaced(end == 0 ? rest : Before(rest, end), "\r\n", " ");
     record += "<" + field + ">" + value + "</" + field + ">";
   }
   for (int other = 1; other < n; ++other) {

@@ -2,25 +2,24 @@
 #include <string>
 
 #include "core/document/document_file.h"
+#include "core/ipod/meta_lines.h"
 #include "core/ipod/note_writer.h"
 #include "support/fixtures.h"
 
 namespace tavrel::test {
 namespace {
 
-const std::string kMeta = "<meta name=\"LineWrap\" content=\"false\">\r\n";
-const std::string kNow = "<meta name=\"NowPlaying\" content=\"false\">\r\n";
 const std::string kMenu = "<a href=\"\\\">Notes menu</a>\r\n";
 constexpr PublishOptions kBoth = {.NotesMenuLink = true, .BackgroundMusic = true};
 
 /// The note of one page whose record is given, with no option chosen.
-std::string Note(const std::string& record, int page = 2, const PublishOptions& options = {}) {
+std::string Published(const std::string& record, int page = 2, const PublishOptions& options = {}) {
   Global global;
   global.Page(page) = record;
   return NoteText(global, page, options);
 }
 
-std::string Pair(const std::string& text, const std::string& target) {
+std::string LinkPair(const std::string& text, const std::string& target) {
   return "<linktext>" + text + "</linktext><linkto>" + target + "</linkto>";
 }
 
@@ -36,63 +35,65 @@ TEST(NoteText, HasEveryLineInItsOrder) {
 }
 
 TEST(NoteText, HasSixLinesForAPageWithOneLink) {
-  EXPECT_EQ(
-      Note("<title>Start</title><text>See <Part two></text><link>" + Pair("Part two", "002") + "</link>", 1,
-           kBoth),
-      "<title>-Start</title>\r\n" + kMeta + kNow +
-          "See <a href=\"z002.txt\">Part two</a>\r\n"
-          "<a href=\"z002.txt\">Part two</a>\r\n" +
-          kMenu);
+  EXPECT_EQ(Published("<title>Start</title><text>See <Part two></text><link>" + LinkPair("Part two", "002") +
+                          "</link>",
+                      1, kBoth),
+            "<title>-Start</title>\r\n" + kMeta + kNow +
+                "See <a href=\"z002.txt\">Part two</a>\r\n"
+                "<a href=\"z002.txt\">Part two</a>\r\n" +
+                kMenu);
 }
 
 TEST(NoteText, HasNoOptionalLineUnlessChosen) {
   const std::string record = "<title>T</title><text>B</text>";
-  EXPECT_EQ(Note(record), "<title>T</title>\r\n" + kMeta + "B\r\n");
-  EXPECT_EQ(Note(record, 2, {.NotesMenuLink = true}), "<title>T</title>\r\n" + kMeta + "B\r\n" + kMenu);
-  EXPECT_EQ(Note(record, 2, {.BackgroundMusic = true}), "<title>T</title>\r\n" + kMeta + kNow + "B\r\n");
+  EXPECT_EQ(Published(record), "<title>T</title>\r\n" + kMeta + "B\r\n");
+  EXPECT_EQ(Published(record, 2, {.NotesMenuLink = true}), "<title>T</title>\r\n" + kMeta + "B\r\n" + kMenu);
+  EXPECT_EQ(Published(record, 2, {.BackgroundMusic = true}), "<title>T</title>\r\n" + kMeta + kNow + "B\r\n");
 }
 
 TEST(NoteText, PutsAHyphenBeforeTheFirstPagesTitleWhateverItIs) {
-  EXPECT_EQ(Note("<text>B</text>", 1), "<title>-</title>\r\n" + kMeta + "B\r\n");
-  EXPECT_EQ(Note("<title>-Start</title>", 1), "<title>--Start</title>\r\n" + kMeta + "\r\n");
-  EXPECT_EQ(Note("<text>B</text>", 10), "<title></title>\r\n" + kMeta + "B\r\n");
+  EXPECT_EQ(Published("<text>B</text>", 1), "<title>-</title>\r\n" + kMeta + "B\r\n");
+  EXPECT_EQ(Published("<title>-Start</title>", 1), "<title>--Start</title>\r\n" + kMeta + "\r\n");
+  EXPECT_EQ(Published("<text>B</text>", 10), "<title></title>\r\n" + kMeta + "B\r\n");
 }
 
 TEST(NoteText, AlwaysHasALineForTheText) {
-  EXPECT_EQ(Note("<note>N</note>"), "<title></title>\r\n" + kMeta + "\r\n");
+  EXPECT_EQ(Published("<note>N</note>"), "<title></title>\r\n" + kMeta + "\r\n");
 }
 
 TEST(NoteText, KeepsTheLineBreaksOfTheText) {
-  EXPECT_EQ(Note("<title>T</title><text>l1\r\nl2\r\n</text>", 4),
+  EXPECT_EQ(Published("<title>T</title><text>l1\r\nl2\r\n</text>", 4),
             "<title>T</title>\r\n" + kMeta + "l1\r\nl2\r\n\r\n");
 }
 
 TEST(NoteText, LeavesTextsWithoutAPairOfBracketsAlone) {
-  EXPECT_EQ(Note("<text>a < b</text>"), "<title></title>\r\n" + kMeta + "a < b\r\n");
-  EXPECT_EQ(Note("<text>a > b <c></text><link>" + Pair("x", "003") + "</link>"),
+  EXPECT_EQ(Published("<text>a < b</text>"), "<title></title>\r\n" + kMeta + "a < b\r\n");
+  EXPECT_EQ(Published("<text>a > b <c></text><link>" + LinkPair("x", "003") + "</link>"),
             "<title></title>\r\n" + kMeta + "a > b <c>\r\n<a href=\"z003.txt\">x</a>\r\n");
 }
 
 TEST(NoteText, HasAMusicLineOnlyWithACaption) {
-  EXPECT_EQ(Note("<music>Hear</music><music></music>"),
+  EXPECT_EQ(Published("<music>Hear</music><music></music>"),
             "<title></title>\r\n" + kMeta + "<a href=\"\\\">Hear</a>\r\n\r\n");
-  EXPECT_EQ(Note("<music></music><music>M1</music>"), "<title></title>\r\n" + kMeta + "\r\n");
+  EXPECT_EQ(Published("<music></music><music>M1</music>"), "<title></title>\r\n" + kMeta + "\r\n");
 }
 
 TEST(NoteText, EndsTheLinksAtTheFirstEmptyTarget) {
-  EXPECT_EQ(Note("<link>" + Pair("a", "002") + Pair("b", "") + Pair("c", "003") + "</link>"),
+  EXPECT_EQ(Published("<link>" + LinkPair("a", "002") + LinkPair("b", "") + LinkPair("c", "003") + "</link>"),
             "<title></title>\r\n" + kMeta + "\r\n<a href=\"z002.txt\">a</a>\r\n");
 }
 
 TEST(NoteText, EndsTheLinksAtTheFirstEmptyText) {
-  EXPECT_EQ(Note("<link>" + Pair("a", "002") + Pair("", "003") + Pair("c", "004") + "</link>"),
-            "<title></title>\r\n" + kMeta + "\r\n<a href=\"z002.txt\">a</a>\r\n");
+  EXPECT_EQ(
+      Published("<link>" + LinkPair("a", "002") + LinkPair("", "003") + LinkPair("c", "004") + "</link>"),
+      "<title></title>\r\n" + kMeta + "\r\n<a href=\"z002.txt\">a</a>\r\n");
 }
 
 TEST(NoteText, WritesLinksToPagesAndMusicInTheirOrder) {
   Global global;
   global.MusicLink(7) = "<genre>Jazz</genre>";
-  global.Page(2) = "<link>" + Pair("far", "1000") + Pair("hear", "M007") + Pair("none", "000") + "</link>";
+  global.Page(2) =
+      "<link>" + LinkPair("far", "1000") + LinkPair("hear", "M007") + LinkPair("none", "000") + "</link>";
   EXPECT_EQ(NoteText(global, 2, {}), "<title></title>\r\n" + kMeta +
                                          "\r\n<a href=\"z1000.txt\">far</a>\r\n"
                                          "<a href=\"ipod:music?genre=Jazz\">hear</a>\r\n"
@@ -104,27 +105,27 @@ TEST(NoteText, WritesMoreThanFortyNineLinks) {
   std::string expected = "<title></title>\r\n" + kMeta + "\r\n";
   for (int link = 101; link <= 160; ++link) {
     const std::string number = std::to_string(link);
-    links += Pair("t" + number, number);
+    links += LinkPair("t" + number, number);
     expected += "<a href=\"z" + number + ".txt\">t" + number + "</a>\r\n";
   }
-  EXPECT_EQ(Note("<link>" + links + "</link>"), expected);
+  EXPECT_EQ(Published("<link>" + links + "</link>"), expected);
 }
 
 TEST(NoteText, EscapesNothing) {
   const std::string odd = "&amp; \"q\" = \xE9";
-  EXPECT_EQ(Note("<title>" + odd + "</title><text>" + odd + "</text><link>" + Pair(odd, "001") +
-                 "</link><music>" + odd + "</music><music></music>"),
+  EXPECT_EQ(Published("<title>" + odd + "</title><text>" + odd + "</text><link>" + LinkPair(odd, "001") +
+                      "</link><music>" + odd + "</music><music></music>"),
             "<title>" + odd + "</title>\r\n" + kMeta + "<a href=\"\\\">" + odd + "</a>\r\n" + odd +
                 "\r\n<a href=\"z001.txt\">" + odd + "</a>\r\n");
 }
 
 TEST(NoteText, NeverPublishesTheNote) {
-  EXPECT_EQ(Note("<title>T</title><note>secret</note><text>B</text>"),
+  EXPECT_EQ(Published("<title>T</title><note>secret</note><text>B</text>"),
             "<title>T</title>\r\n" + kMeta + "B\r\n");
 }
 
 TEST(NoteText, UsesTheFirstElementOfEachTag) {
-  EXPECT_EQ(Note("<title>A</title><title>B</title><text>1</text><text>2</text>"),
+  EXPECT_EQ(Published("<title>A</title><title>B</title><text>1</text><text>2</text>"),
             "<title>A</title>\r\n" + kMeta + "1\r\n");
 }
 

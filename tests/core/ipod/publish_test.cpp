@@ -6,6 +6,7 @@
 #include "core/document/default_pages.h"
 #include "core/document/document_file.h"
 #include "core/document/page_record.h"
+#include "core/ipod/meta_lines.h"
 #include "core/ipod/note_writer.h"
 #include "core/text/run_time_error.h"
 #include "support/fake_platform.h"
@@ -20,9 +21,6 @@ using testing::HasSubstr;
 using testing::ThrowsMessage;
 using Operation = FailingFiles::Operation;
 using FileMap = std::map<std::string, std::string>;
-
-const std::string kMeta = "<meta name=\"LineWrap\" content=\"false\">\r\n";
-const std::string kNow = "<meta name=\"NowPlaying\" content=\"false\">\r\n";
 
 /// The note of a page of Trio.dat.
 std::string TrioNote(const std::string& title, const std::string& text) {

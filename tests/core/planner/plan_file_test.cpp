@@ -17,6 +17,7 @@ namespace {
 using namespace std::string_literals;
 using testing::HasSubstr;
 using testing::ThrowsMessage;
+using Operation = FailingFiles::Operation;
 using FileMap = std::map<std::string, std::string>;
 
 Plan PlanWithText(const std::string& text) {
@@ -90,7 +91,6 @@ TEST_F(PlanFileTest, ReplacesALongerOne) {
 }
 
 TEST_F(PlanFileTest, StaysTheOldOneIfTheNewOneCannotBeWritten) {
-  using Operation = FailingFiles::Operation;
   Folder.Write("m.pln", "old");
   for (const Operation step :
        {Operation::CreateNew, Operation::Write, Operation::Flush, Operation::Close, Operation::Replace}) {

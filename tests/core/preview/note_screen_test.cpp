@@ -20,34 +20,34 @@ std::vector<std::string> Wrapped(const std::string& text, int width) {
   return lines;
 }
 
-using Lines = std::vector<std::string>;
+using LineList = std::vector<std::string>;
 
 TEST(WrapText, AShortLineStays) {
-  EXPECT_EQ(Wrapped("one two", 7), Lines{"one two"});
+  EXPECT_EQ(Wrapped("one two", 7), LineList{"one two"});
 }
 
 TEST(WrapText, ALineBreaksBehindTheLastBlankThatFits) {
-  EXPECT_EQ(Wrapped("one two three", 8), (Lines{"one two ", "three"}));
+  EXPECT_EQ(Wrapped("one two three", 8), (LineList{"one two ", "three"}));
 }
 
 TEST(WrapText, ABlankThatDoesNotFitAnyMoreEndsItsLine) {
-  EXPECT_EQ(Wrapped("one two three", 7), (Lines{"one two ", "three"}));
+  EXPECT_EQ(Wrapped("one two three", 7), (LineList{"one two ", "three"}));
 }
 
 TEST(WrapText, AWordThatIsTooLongBreaksAnywhere) {
-  EXPECT_EQ(Wrapped("abcdefgh", 3), (Lines{"abc", "def", "gh"}));
+  EXPECT_EQ(Wrapped("abcdefgh", 3), (LineList{"abc", "def", "gh"}));
 }
 
 TEST(WrapText, ALetterWiderThanTheScreenStandsAlone) {
-  EXPECT_EQ(Wrapped("ab", 0), (Lines{"a", "b"}));
+  EXPECT_EQ(Wrapped("ab", 0), (LineList{"a", "b"}));
 }
 
 TEST(WrapText, LinesEndWhereTheTextSaysSo) {
-  EXPECT_EQ(Wrapped("a\n\nb\n", 5), (Lines{"a", "", "b"}));
+  EXPECT_EQ(Wrapped("a\n\nb\n", 5), (LineList{"a", "", "b"}));
 }
 
 TEST(WrapText, NothingHasNoLines) {
-  EXPECT_EQ(Wrapped("", 5), Lines{});
+  EXPECT_EQ(Wrapped("", 5), LineList{});
 }
 
 /// A screen of three lines, ten letters wide.

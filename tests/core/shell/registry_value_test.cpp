@@ -13,9 +13,6 @@ namespace {
 
 using std::string_literals::operator""s;
 
-constexpr std::uint32_t kString = 1;
-constexpr std::uint32_t kNumber = 4;
-
 /// What GetKeyValue makes of a value that is stored so.
 std::string TextOf(std::uint32_t type, const std::string& bytes) {
   FakePlatform system;
@@ -26,30 +23,30 @@ std::string TextOf(std::uint32_t type, const std::string& bytes) {
 }
 
 TEST(GetKeyValue, DropsTheNulAtTheEndOfAString) {
-  EXPECT_EQ(TextOf(kString, "abc\0"s), "abc");
-  EXPECT_EQ(TextOf(kString, "a\0"s), "a");
+  EXPECT_EQ(TextOf(kRegistryString, "abc\0"s), "abc");
+  EXPECT_EQ(TextOf(kRegistryString, "a\0"s), "a");
 }
 
 TEST(GetKeyValue, CutsNothingFromAStringWithoutANul) {
-  EXPECT_EQ(TextOf(kString, "abc"), "abc");
-  EXPECT_EQ(TextOf(kString, "a"), "a");
-  EXPECT_EQ(TextOf(kString, "abcde"), "abcde");
-  EXPECT_EQ(TextOf(kString, " abc "), " abc ");
-  EXPECT_EQ(TextOf(kString, "caf\xE9"), "caf\xE9");
+  EXPECT_EQ(TextOf(kRegistryString, "abc"), "abc");
+  EXPECT_EQ(TextOf(kRegistryString, "a"), "a");
+  EXPECT_EQ(TextOf(kRegistryString, "abcde"), "abcde");
+  EXPECT_EQ(TextOf(kRegistryString, " abc "), " abc ");
+  EXPECT_EQ(TextOf(kRegistryString, "caf\xE9"), "caf\xE9");
 }
 
 TEST(GetKeyValue, DropsOneNulOnly) {
-  EXPECT_EQ(TextOf(kString, "abc\0\0"s), "abc\0"s);
-  EXPECT_EQ(TextOf(kString, "\0"s), "");
-  EXPECT_EQ(TextOf(kString, "\0\0\0"s), "\0\0"s);
-  EXPECT_EQ(TextOf(kString, "a\0b"s), "a\0b"s);
+  EXPECT_EQ(TextOf(kRegistryString, "abc\0\0"s), "abc\0"s);
+  EXPECT_EQ(TextOf(kRegistryString, "\0"s), "");
+  EXPECT_EQ(TextOf(kRegistryString, "\0\0\0"s), "\0\0"s);
+  EXPECT_EQ(TextOf(kRegistryString, "a\0b"s), "a\0b"s);
 }
 
 TEST(GetKeyValue, TakesAnEmptyStringAndTheLargestOne) {
-  EXPECT_EQ(TextOf(kString, ""), "");
-  EXPECT_EQ(TextOf(kString, std::string(1024, 'x')), std::string(1024, 'x'));
-  EXPECT_EQ(TextOf(kString, std::string(1023, 'x') + '\0'), std::string(1023, 'x'));
-  EXPECT_EQ(TextOf(kString, std::string(1024, '\0')), std::string(1023, '\0'));
+  EXPECT_EQ(TextOf(kRegistryString, ""), "");
+  EXPECT_EQ(TextOf(kRegistryString, std::string(1024, 'x')), std::string(1024, 'x'));
+  EXPECT_EQ(TextOf(kRegistryString, std::string(1023, 'x') + '\0'), std::string(1023, 'x'));
+  EXPECT_EQ(TextOf(kRegistryString, std::string(1024, '\0')), std::string(1023, '\0'));
 }
 
 struct Number {
@@ -64,7 +61,7 @@ std::ostream& operator<<(std::ostream& out, const Number& number) {
 class GetKeyValueNumber : public testing::TestWithParam<Number> {};
 
 TEST_P(GetKeyValueNumber, IsReadLastByteFirstInHexWithoutPadding) {
-  EXPECT_EQ(TextOf(kNumber, GetParam().Bytes), GetParam().Text);
+  EXPECT_EQ(TextOf(kRegistryNumber, GetParam().Bytes), GetParam().Text);
 }
 
 INSTANTIATE_TEST_SUITE_P(Of4Bytes, GetKeyValueNumber,
@@ -88,9 +85,9 @@ INSTANTIATE_TEST_SUITE_P(OfOtherSizes, GetKeyValueNumber,
                                          Number{std::string(1024, '\0'), "0"}));
 
 TEST(GetKeyValue, RefusesANumberBeyondAllBounds) {
-  EXPECT_THROW(TextOf(kNumber, std::string(1024, '\x01')), RunTimeError);
-  EXPECT_THROW(TextOf(kNumber, std::string(1024, '\xFF')), RunTimeError);
-  EXPECT_THROW(TextOf(kNumber, std::string(9, '\xFF')), RunTimeError);
+  EXPECT_THROW(TextOf(kRegistryNumber, std::string(1024, '\x01')), RunTimeError);
+  EXPECT_THROW(TextOf(kRegistryNumber, std::string(1024, '\xFF')), RunTimeError);
+  EXPECT_THROW(TextOf(kRegistryNumber, std::string(9, '\xFF')), RunTimeError);
 }
 
 TEST(GetKeyValue, GivesAnEmptyTextForEveryOtherType) {
@@ -106,7 +103,7 @@ TEST(GetKeyValue, GivesAnEmptyTextForEveryOtherType) {
 
 TEST(GetKeyValue, IsFalseForAValueThatCannotBeReadAndLeavesTheText) {
   FakePlatform system;
-  system.Registry["SOFTWARE\\Any|Name"] = {.Type = kString, .Bytes = "abc"};
+  system.Registry["SOFTWARE\\Any|Name"] = {.Type = kRegistryString, .Bytes = "abc"};
   std::string text = "as it was";
   EXPECT_FALSE(GetKeyValue(system, RegistryRoot::LocalMachine, "SOFTWARE\\Any", "Other", text));
   EXPECT_FALSE(GetKeyValue(system, RegistryRoot::LocalMachine, "SOFTWARE\\Other", "Name", text));

@@ -15,10 +15,6 @@ namespace fs = std::filesystem;
 using Programs = std::vector<fs::path>;
 using std::string_literals::operator""s;
 
-constexpr std::uint32_t kString = 1;
-constexpr std::uint32_t kExpandableString = 2;
-constexpr std::uint32_t kNumber = 4;
-
 class SystemInfoTest : public testing::Test {
  protected:
   void SetTool(std::uint32_t type, const std::string& bytes) {
@@ -26,7 +22,8 @@ class SystemInfoTest : public testing::Test {
   }
 
   void SetFolder(const std::string& bytes) {
-    System.Registry["SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO"] = {.Type = kString, .Bytes = bytes};
+    System.Registry["SOFTWARE\\Microsoft\\Shared Tools Location|MSINFO"] = {.Type = kRegistryString,
+                                                                            .Bytes = bytes};
   }
 
   /// The folder in the way that the registry names it.
@@ -44,7 +41,7 @@ TEST_F(SystemInfoTest, FailsWithoutEitherValue) {
 }
 
 TEST_F(SystemInfoTest, StartsTheToolThatTheRegistryNames) {
-  SetTool(kString, "C:\\Info\\msinfo32.exe\0"s);
+  SetTool(kRegistryString, "C:\\Info\\msinfo32.exe\0"s);
   SetFolder(ToolsFolder());
   Folder.Write("Tools\\MSINFO32.EXE", "");
   StartSystemInfo(System);
@@ -52,7 +49,7 @@ TEST_F(SystemInfoTest, StartsTheToolThatTheRegistryNames) {
 }
 
 TEST_F(SystemInfoTest, ReadsNamesInTheSystemsCodePage) {
-  SetTool(kString, "C:\\caf\xE9.exe");
+  SetTool(kRegistryString, "C:\\caf\xE9.exe");
   StartSystemInfo(System);
   EXPECT_EQ(System.Started, Programs{fs::path(u8"C:\\caf\u00E9.exe")});
 }
@@ -71,7 +68,7 @@ TEST_F(SystemInfoTest, FailsIfTheToolIsNotInThatFolder) {
 }
 
 TEST_F(SystemInfoTest, FailsIfTheToolDoesNotStartAndTriesNoOther) {
-  SetTool(kString, "C:\\gone.exe");
+  SetTool(kRegistryString, "C:\\gone.exe");
   SetFolder(ToolsFolder());
   Folder.Write("Tools\\MSINFO32.EXE", "");
   System.StartsPrograms = false;
@@ -79,7 +76,7 @@ TEST_F(SystemInfoTest, FailsIfTheToolDoesNotStartAndTriesNoOther) {
 }
 
 TEST_F(SystemInfoTest, AValueOfAnotherTypeIsFoundAndEmpty) {
-  SetTool(kExpandableString, "%windir%\\msinfo32.exe");
+  SetTool(kRegistryExpandable, "%windir%\\msinfo32.exe");
   SetFolder(ToolsFolder());
   Folder.Write("Tools\\MSINFO32.EXE", "");
   StartSystemInfo(System);
@@ -87,7 +84,7 @@ TEST_F(SystemInfoTest, AValueOfAnotherTypeIsFoundAndEmpty) {
 }
 
 TEST_F(SystemInfoTest, FailsOnANumberBeyondAllBounds) {
-  SetTool(kNumber, std::string(1024, '\xFF'));
+  SetTool(kRegistryNumber, std::string(1024, '\xFF'));
   EXPECT_THROW(StartSystemInfo(System), RunTimeError);
   EXPECT_EQ(System.Started, Programs{});
 }

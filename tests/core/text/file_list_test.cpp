@@ -14,13 +14,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const CodePage& Page() {
-  return CodePage::Windows1252();
-}
-
 std::vector<std::string> Names(const TemporaryFolder& folder, std::string_view extension) {
   std::vector<std::string> names;
-  for (const FolderFile& file : ListFiles(folder.Path(), extension, Page()))
+  for (const FolderFile& file : ListFiles(folder.Path(), extension, CodePage::Windows1252()))
     names.push_back(file.Name.string());
   return names;
 }
@@ -58,8 +54,8 @@ TEST(ListFiles, HoldsOrdinaryFilesOnly) {
 TEST(ListFiles, IsEmptyForAFolderThatCannotBeRead) {
   const TemporaryFolder folder;
   folder.Write("file", "x");
-  EXPECT_TRUE(ListFiles(folder.Path() / "gone", ".dat", Page()).empty());
-  EXPECT_TRUE(ListFiles(folder.Path() / "file", ".dat", Page()).empty());
+  EXPECT_TRUE(ListFiles(folder.Path() / "gone", ".dat", CodePage::Windows1252()).empty());
+  EXPECT_TRUE(ListFiles(folder.Path() / "file", ".dat", CodePage::Windows1252()).empty());
 }
 
 TEST(ListFiles, KeepsTwoFilesApartThatLookAlikeWhenCut) {
@@ -104,7 +100,7 @@ std::string EntryOfFileDated(std::chrono::sys_seconds time) {
   const TemporaryFolder folder;
   folder.Write("Guide.dat", "x");
   fs::last_write_time(folder.Path() / "Guide.dat", std::chrono::file_clock::from_sys(time));
-  const std::vector<FolderFile> files = ListFiles(folder.Path(), ".dat", Page());
+  const std::vector<FolderFile> files = ListFiles(folder.Path(), ".dat", CodePage::Windows1252());
   return FileListEntry("Guide", files.at(0).Modified);
 }
 

@@ -6,10 +6,6 @@
 namespace tavrel::test {
 namespace {
 
-const CodePage& Page() {
-  return CodePage::Windows1252();
-}
-
 TEST(TrimBlanks, RemovesBlanksAtBothEnds) {
   EXPECT_EQ(TrimBlanks("  a b  "), "a b");
   EXPECT_EQ(TrimBlanks("a"), "a");
@@ -77,20 +73,20 @@ TEST(FileListEntry, WritesTheDayBeforeTheMonth) {
 }
 
 TEST(PathFromName, HoldsTheCharactersOfTheCodePage) {
-  EXPECT_EQ(PathFromName("Caf\xE9 \x80.dat", Page()).u32string(), U"Caf\u00E9 \u20AC.dat");
+  EXPECT_EQ(PathFromName("Caf\xE9 \x80.dat", CodePage::Windows1252()).u32string(), U"Caf\u00E9 \u20AC.dat");
 }
 
 TEST(NameInCodePage, IsOneByteACharacter) {
-  EXPECT_EQ(NameInCodePage(U"Caf\u00E9 \u20AC.dat", Page()), "Caf\xE9 \x80.dat");
+  EXPECT_EQ(NameInCodePage(U"Caf\u00E9 \u20AC.dat", CodePage::Windows1252()), "Caf\xE9 \x80.dat");
 }
 
 TEST(NameInCodePage, HasAQuestionMarkForWhatTheCodePageDoesNotHold) {
-  EXPECT_EQ(NameInCodePage(U"\u4E2D\u6587.dat", Page()), "??.dat");
+  EXPECT_EQ(NameInCodePage(U"\u4E2D\u6587.dat", CodePage::Windows1252()), "??.dat");
 }
 
 #ifndef _WIN32
 TEST(NameInCodePage, SurvivesAFileNameThatIsNotText) {
-  EXPECT_EQ(NameInCodePage("caf\xE9.dat", Page()), "caf?.dat");
+  EXPECT_EQ(NameInCodePage("caf\xE9.dat", CodePage::Windows1252()), "caf?.dat");
 }
 #endif
 

@@ -16,41 +16,41 @@ using testing::HasSubstr;
 using testing::ThrowsMessage;
 using LineList = std::vector<std::string>;
 
-LineList Lines(std::string_view text) {
+LineList LinesIn(std::string_view text) {
   LineList lines;
   for (LineReader reader(text); !reader.AtEnd();) lines.emplace_back(reader.Next());
   return lines;
 }
 
 TEST(LineReader, EndsLinesAtBothKindsOfLineEnd) {
-  EXPECT_EQ(Lines("a\r\nb\r\n"), (LineList{"a", "b"}));
-  EXPECT_EQ(Lines("a\nb\n"), (LineList{"a", "b"}));
-  EXPECT_EQ(Lines("a\nb\r\nc\n"), (LineList{"a", "b", "c"}));
+  EXPECT_EQ(LinesIn("a\r\nb\r\n"), (LineList{"a", "b"}));
+  EXPECT_EQ(LinesIn("a\nb\n"), (LineList{"a", "b"}));
+  EXPECT_EQ(LinesIn("a\nb\r\nc\n"), (LineList{"a", "b", "c"}));
 }
 
 TEST(LineReader, HasNoLineInAnEmptyText) {
-  EXPECT_EQ(Lines(""), LineList());
+  EXPECT_EQ(LinesIn(""), LineList());
 }
 
 TEST(LineReader, GivesEmptyLines) {
-  EXPECT_EQ(Lines("\r\n"), (LineList{""}));
-  EXPECT_EQ(Lines("\n\r\na\r\n\n"), (LineList{"", "", "a", ""}));
+  EXPECT_EQ(LinesIn("\r\n"), (LineList{""}));
+  EXPECT_EQ(LinesIn("\n\r\na\r\n\n"), (LineList{"", "", "a", ""}));
 }
 
 TEST(LineReader, GivesALastLineWithoutItsEnd) {
-  EXPECT_EQ(Lines("a\r\nb"), (LineList{"a", "b"}));
-  EXPECT_EQ(Lines("b"), (LineList{"b"}));
+  EXPECT_EQ(LinesIn("a\r\nb"), (LineList{"a", "b"}));
+  EXPECT_EQ(LinesIn("b"), (LineList{"b"}));
 }
 
 TEST(LineReader, TakesALoneCarriageReturnForContent) {
-  EXPECT_EQ(Lines("a\rb\r\n"), (LineList{"a\rb"}));
-  EXPECT_EQ(Lines("a\r\r\nb"), (LineList{"a\r", "b"}));
-  EXPECT_EQ(Lines("a\r"), (LineList{"a\r"}));
+  EXPECT_EQ(LinesIn("a\rb\r\n"), (LineList{"a\rb"}));
+  EXPECT_EQ(LinesIn("a\r\r\nb"), (LineList{"a\r", "b"}));
+  EXPECT_EQ(LinesIn("a\r"), (LineList{"a\r"}));
 }
 
 TEST(LineReader, KeepsEveryOtherByte) {
   const std::string line = "\0\x1A\x80\xFF\t,\""s;
-  EXPECT_EQ(Lines(line + "\r\n" + line + "\n"), (LineList{line, line}));
+  EXPECT_EQ(LinesIn(line + "\r\n" + line + "\n"), (LineList{line, line}));
 }
 
 TEST(ReadWholeFile, GivesEveryByte) {

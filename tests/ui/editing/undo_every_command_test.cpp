@@ -12,8 +12,8 @@
 namespace tavrel::test {
 namespace {
 
-constexpr int kPage = 2;       // which is worked on
-constexpr int kMostSteps = 6;  // that one command may leave, with what was typed before it
+constexpr int kPage = 2;              // which is worked on
+constexpr int kMostOfOneCommand = 6;  // that one command may leave, with what was typed before it
 
 /// Whatever a command of the main window does to the document leaves steps. Which commands there are, the
 /// window says: a menu item or a button that is added later is walked over too.
@@ -122,7 +122,7 @@ class UndoEveryCommandTest : public UndoTest {
       PressInGrid(Qt::Key_Y);
     }
     Texts states{Document()};
-    while (states.size() < kMostSteps && CanUndo()) {
+    while (states.size() < kMostOfOneCommand && CanUndo()) {
       PressInGrid(Qt::Key_Z);
       states.push_back(Document());
       typing_comes_back |= State.Page(kPage) == typed_page;

@@ -5,8 +5,6 @@
 namespace tavrel::test {
 namespace {
 
-constexpr int kMostPresses = 5;  // of the key until one field's typing is gone
-
 /// A field of the main window.
 struct FieldCase {
   const char* Name;

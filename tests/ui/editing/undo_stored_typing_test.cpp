@@ -3,8 +3,6 @@
 namespace tavrel::test {
 namespace {
 
-constexpr int kMostPresses = 5;  // of the key until one field's typing is gone
-
 /// What storing a page that stays in the fields does to the fields' own undo.
 class UndoStoredTypingTest : public UndoTest {
  protected:

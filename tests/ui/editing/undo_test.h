@@ -16,6 +16,8 @@ extern const std::string kWorldPage1;
 extern const std::string kWorldPage2;
 extern const std::string kWorldPage3;
 
+inline constexpr int kMostPresses = 5;  ///< of the key until one field's typing is gone
+
 /// Takes back and makes again what was done, as a person does, and looks at all that this may change.
 class UndoTest : public WindowTest {
  protected:

@@ -12,8 +12,6 @@
 namespace tavrel::test {
 namespace {
 
-const std::string kNotAvailable = "Warning|critical|Drive D: not available!  |OK";
-
 const std::string kTrioImported =
     "\r\n"
     " 1 ,<title>-A</title><text> <p><p>one<p> </text><link></link>\r\n"

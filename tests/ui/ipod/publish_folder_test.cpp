@@ -7,8 +7,6 @@
 namespace tavrel::test {
 namespace {
 
-const std::string kNotAvailable = "Warning|critical|Drive D: not available!  |OK";
-
 class PublishFolderTest : public PublishTest {
  protected:
   void SetUp() override { OpenDocument("Trio.dat", kTrio); }

@@ -19,6 +19,8 @@ inline const std::string kNow = "<meta name=\"NowPlaying\" content=\"false\">\r\
 inline const std::string kMenu = "<a href=\"\\\">Notes menu</a>\r\n";
 inline const std::string kFinished = "Publish|information|Finished...    |OK";
 
+inline const std::string kNotAvailable = "Warning|critical|Drive D: not available!  |OK";
+
 /// Publishes documents as a person does.
 class PublishTest : public WindowTest {
  protected:

@@ -7,11 +7,11 @@
 
 #include "core/shell/program_info.h"
 #include "support/window_test.h"
+#include "ui/shell/shell_test.h"
 
 namespace tavrel::test {
 namespace {
 
-using Texts = std::vector<std::string>;
 using testing::ElementsAre;
 
 class AboutTest : public WindowTest {

@@ -118,12 +118,14 @@ TEST_F(MessageBoxesTest, TheMainWindowShowsThem) {
   EXPECT_EQ(text, "Nothing to close!    ");
 }
 
-using Words = std::map<QByteArray, QString>;
+using Translations = std::map<QByteArray, QString>;
 
 /// Knows some of the program's messages in another language, while it lives.
 class Translation : public QTranslator {
  public:
-  explicit Translation(Words words) : words_(std::move(words)) { QCoreApplication::installTranslator(this); }
+  explicit Translation(Translations words) : words_(std::move(words)) {
+    QCoreApplication::installTranslator(this);
+  }
   ~Translation() override { QCoreApplication::removeTranslator(this); }
 
   bool isEmpty() const override { return false; }
@@ -135,7 +137,7 @@ class Translation : public QTranslator {
   }
 
  private:
-  Words words_;
+  Translations words_;
 };
 
 class TranslatedBoxesTest : public MessageBoxesTest {
@@ -152,22 +154,22 @@ class TranslatedBoxesTest : public MessageBoxesTest {
 };
 
 TEST_F(TranslatedBoxesTest, TextAndTitleAreTranslated) {
-  const Translation german(
-      Words{{"Nothing to save!    ", "Nichts zu sichern!"}, {"Oops!", QString::fromUtf8("Hoppla \u00FC")}});
+  const Translation german(Translations{{"Nothing to save!    ", "Nichts zu sichern!"},
+                                        {"Oops!", QString::fromUtf8("Hoppla \u00FC")}});
   EXPECT_EQ(TextAndTitle(kRefusal), QString::fromUtf8("Nichts zu sichern!|Hoppla \u00FC"));
   EXPECT_EQ(TextAndTitle(messages::ProjectSaved()), "Project saved...    |Tavrel Writer");
 }
 
 TEST_F(TranslatedBoxesTest, ATextIsTranslatedWithItsLineEndsAndBlanks) {
-  const Translation german(
-      Words{{"Closing the document does not save it,    \r\nso any changes will be lost. Continue?    ",
-             "A\r\nB"}});
+  const Translation german(Translations{
+      {"Closing the document does not save it,    \r\nso any changes will be lost. Continue?    ",
+       "A\r\nB"}});
   EXPECT_EQ(TextAndTitle(kQuestion), "A\nB|Tavrel Writer");
 }
 
 TEST_F(TranslatedBoxesTest, WhatIsFilledInStandsInTheTranslation) {
-  const Translation german(Words{{"Overwrite pages%1 to%2?    ", "Bis%2, von%1?"},
-                                 {"Drive %1 not available!  ", "Laufwerk %1 fehlt"}});
+  const Translation german(Translations{{"Overwrite pages%1 to%2?    ", "Bis%2, von%1?"},
+                                        {"Drive %1 not available!  ", "Laufwerk %1 fehlt"}});
   EXPECT_EQ(TextAndTitle(messages::PlanOverwritesPages(2)), "Bis 27, von 2?|Save");
   EXPECT_EQ(TextAndTitle(messages::DriveNotAvailable("D:")), "Laufwerk D: fehlt|Warning");
 }
@@ -175,13 +177,13 @@ TEST_F(TranslatedBoxesTest, WhatIsFilledInStandsInTheTranslation) {
 TEST_F(TranslatedBoxesTest, ANameWithAPercentSignStaysAsItIs) {
   EXPECT_EQ(TextAndTitle(messages::DeleteFolderQuestion("/%1/%2/100%")),
             "Are you sure you want to delete...\n/%1/%2/100%|Please confirm");
-  const Translation german(Words{{"Are you sure you want to delete...\r\n%1", "%1 entfernen?"}});
+  const Translation german(Translations{{"Are you sure you want to delete...\r\n%1", "%1 entfernen?"}});
   EXPECT_EQ(TextAndTitle(messages::DeleteFolderQuestion("/%1/%2/100%")),
             "/%1/%2/100% entfernen?|Please confirm");
 }
 
 TEST_F(TranslatedBoxesTest, WhatIsFilledInIsNotTranslated) {
-  const Translation german(Words{{"Oops!", "Hoppla!"}});
+  const Translation german(Translations{{"Oops!", "Hoppla!"}});
   EXPECT_EQ(TextAndTitle(messages::DriveNotAvailable("Oops!")), "Drive Oops! not available!  |Warning");
 }
 

@@ -58,10 +58,10 @@ void ShellTest::WritePicture(const std::string& name, const QColor& colour) {
 std::string ShellTest::Shown(PictureArea& area) {
   if (area.Picture().isNull()) return "empty";
   const QImage picture = area.Picture().toImage();
-  return NameOf(picture.pixelColor(picture.width() / 2, picture.height() / 2));
+  return ColourName(picture.pixelColor(picture.width() / 2, picture.height() / 2));
 }
 
-std::string NameOf(const QColor& colour) {
+std::string ColourName(const QColor& colour) {
   constexpr int kMuch = 200;
   constexpr int kLittle = 55;
   const bool red = colour.red() > kMuch && colour.green() < kLittle && colour.blue() < kLittle;

@@ -47,6 +47,6 @@ class ShellTest : public WindowTest {
 };
 
 /// "red", "green" or "blue", as far as a compressed picture can be trusted; else "other".
-std::string NameOf(const QColor& colour);
+std::string ColourName(const QColor& colour);
 
 }  // namespace tavrel::test

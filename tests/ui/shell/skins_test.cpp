@@ -15,7 +15,7 @@ class SkinsTest : public ShellTest {
   /// What stands in the lower left corner of an area, where no control lies.
   static std::string CornerOnScreen(QWidget& area) {
     const QImage screen = area.grab().toImage();
-    return NameOf(screen.pixelColor(2, screen.height() - 3));
+    return ColourName(screen.pixelColor(2, screen.height() - 3));
   }
 };
 
