@@ -1,6 +1,7 @@
 #include "monkey/long_use.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QPixmapCache>
 #include <QWidget>
 
@@ -120,6 +121,8 @@ bool Grows(const char* what, const std::vector<Cost>& costs, long Cost::*number,
 int UseForLong(int actions) {
   TypePlainly();
   Monkey monkey(20, false);
+  // A list makes its window when it is first needed, however late that is.
+  for (const QComboBox* list : monkey.Theatre().Window().findChildren<QComboBox*>()) list->view();
   const fs::path temporary = monkey.Theatre().Sandbox.Path() / "tmp";
   fs::create_directory(temporary);
   setenv("TMPDIR", temporary.c_str(), 1);

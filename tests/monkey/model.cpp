@@ -43,6 +43,7 @@ void Model::Resynchronise(const Global& global, const Screen& screen) {
   IsShown = !screen.IsCovered();
   // Whatever the fields hold has been shown or stored just now.
   at_first_ = LiteralBuildPage(editor_.Fields);
+  record_at_first_ = Page(editor_.CurrentPage);
   untouched_ = at_first_;
 }
 
@@ -232,6 +233,7 @@ void Model::LoadPage(int page) {
   selected_link_ = 1;
   selected_page_ = page;
   at_first_ = LiteralBuildPage(editor_.Fields);
+  record_at_first_ = Page(editor_.CurrentPage);
   untouched_ = at_first_;
   ++showing_;
 }

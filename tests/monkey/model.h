@@ -60,7 +60,7 @@ class Model {
   /// Takes back and makes again a step of the document. Nothing if there is none.
   /// `with_redo`: what the fields would hold whose own redo had made all typing again.
   std::optional<LiteralStep> Undo(const std::map<std::string, std::string>& with_redo);
-  std::optional<LiteralStep> Redo();
+  std::optional<LiteralStep> Redo(bool has_unheld_words);
   /// What the items in the Edit menu say that do so, if the field with the focus has nothing to offer.
   std::optional<std::string> UndoCaption() const;
   std::optional<std::string> RedoCaption() const;
@@ -155,9 +155,10 @@ class Model {
   std::array<Row, 1000> rows_;
   bool was_shown_ = false;  ///< since the program started
 
-  std::string untouched_;  ///< the record that the fields made when the page was shown or stored
-  std::string at_first_;   ///< the record that they made when it was shown
-  int showing_ = 0;        ///< counts the pages shown
+  std::string untouched_;        ///< the record that the fields made when the page was shown or stored
+  std::string at_first_;         ///< the record that they made when it was shown
+  std::string record_at_first_;  ///< the page then
+  int showing_ = 0;              ///< counts the pages shown
   LiteralHistory steps_;
   std::shared_ptr<const LiteralDocument> kept_ = std::make_shared<LiteralDocument>();  ///< as it was last
   LiteralPlace place_;      ///< when the command began

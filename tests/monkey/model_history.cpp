@@ -77,6 +77,7 @@ void Model::EndCommand(const LiteralPlace& place) {
 bool Model::IsOnlyRewritten() const {
   const auto page = static_cast<std::size_t>(place_.Page);
   if (!IsRewritten() || kept_->Pages.at(page) == editor_.Pages.at(page)) return false;
+  if (rewritten_.empty() && !step_name_.empty() && showing_ != showing_before_) return false;  // cleared
   LiteralDocument rewritten = *kept_;
   rewritten.Pages.at(page) = rewritten_;
   return rewritten == Now();
@@ -143,12 +144,21 @@ std::optional<LiteralStep> Model::Undo(const std::map<std::string, std::string>&
   const std::string typed = TypedPage();
   const std::string redone = TypedPageWith(with_redo);
   LiteralStep undone;
+  bool has_gone_back = false;
   if (IsTyped()) {
+    // With nothing typed since the page was stored, the fields have only gone back, all or some of them.
+    has_gone_back = redone == Page(editor_.CurrentPage);
     const int storings = StoringsGoneBehind();
+    if (storings == 0 && has_gone_back && !steps_.Done.empty() && steps_.Done.back().Showing == showing_) {
+      undone = TakeBack();
+      ShowAt(undone.From);
+      return undone;
+    }
     for (int left = storings; left > 0; --left) undone = TakeBack();
     if (storings == 0) AddEdit(typed, 0);
+    has_gone_back = has_gone_back && storings > 0;
   }
-  if (redone != typed) {
+  if (redone != typed && !has_gone_back) {
     // The fields are about to forget what they have taken back. Redo brings it all the same.
     AddEdit(redone, 0);
     undone = TakeBack();
@@ -164,9 +174,9 @@ LiteralStep Model::TakeBack() {
   return step;
 }
 
-std::optional<LiteralStep> Model::Redo() {
+std::optional<LiteralStep> Model::Redo(bool has_unheld_words) {
   is_history_ = true;
-  if (!HasRedo()) return std::nullopt;
+  if (has_unheld_words || !HasRedo()) return std::nullopt;
   LiteralStep step = steps_.Redo();
   TakeOver(step.After);
   ShowAt(step.To);
@@ -198,10 +208,8 @@ int Model::StoringsGoneBehind() const {
   for (auto step = steps_.Done.rbegin(); step != steps_.Done.rend(); ++step) {
     if (step->Showing != showing_) return 0;
     ++storings;
-    if (step->Before->Pages.at(page) == typed) return storings;
-    const auto older = std::next(step);
-    const bool is_first = older == steps_.Done.rend() || older->Showing != showing_;
-    if (is_first && at_first_ == typed) return storings;
+    const std::string& stored = step->Before->Pages.at(page);
+    if (stored == typed || (stored == record_at_first_ && at_first_ == typed)) return storings;
   }
   return 0;
 }

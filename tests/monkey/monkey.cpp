@@ -131,6 +131,7 @@ void Monkey::BeginAct() {
   place_in_body_ = screen_->PlaceIn("Text1");
   field_to_undo_ = screen_->FieldToUndo();
   field_to_redo_ = screen_->FieldToRedo();
+  has_unheld_words_ = !screen_->FieldWithUnheldWords().empty();
   for (const std::string& field : Screen::FieldNames()) texts_[field] = model_->Typed(field);
   by_step_key_ = false;
   model_->BeginCommand(screen_->PlaceIn(focus_));

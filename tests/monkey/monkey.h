@@ -90,6 +90,7 @@ class Monkey {
   void Follow();
   void FollowPlanner();
   void FollowRedo();
+  bool HasRedo() const;
   void FollowHistory(bool back);
   void CheckTold(bool back, const std::string& step) const;
   void CheckPlace(const LiteralPlace& place) const;
@@ -123,7 +124,8 @@ class Monkey {
   LiteralPlace place_in_body_;  ///< of the caret before the action
   std::string field_to_undo_;   ///< whose own undo would have been next before the action
   std::string field_to_redo_;
-  std::map<std::string, std::string> texts_;      ///< of all fields, before the action
+  std::map<std::string, std::string> texts_;  ///< of all fields, before the action
+  bool has_unheld_words_ = false;
   std::map<std::string, std::string> with_redo_;  ///< what fields would hold if their redo made all again
   bool by_step_key_ = false;                      ///< the key was one for Undo or Redo
   bool has_destroyed_ = false;  ///< the action before was one of those for which Undo is there

@@ -91,8 +91,11 @@ bool Screen::HasRedo(const std::string& field) const {
 }
 
 std::string Screen::FieldToUndo() const {
+  return HasUndo(Focus()) ? Focus() : FieldWithUnheldWords();
+}
+
+std::string Screen::FieldWithUnheldWords() const {
   const auto is_blank = [](const std::string& bytes) { return Trimmed(bytes).empty(); };
-  if (HasUndo(Focus())) return Focus();
   if (!is_blank(LinkText.Bytes()) && is_blank(LinkTarget.Bytes()) && HasUndo("Text5")) return "Text5";
   return !is_blank(MusicLink.Bytes()) && is_blank(MusicText.Bytes()) && HasUndo("Combo2") ? "Combo2" : "";
 }

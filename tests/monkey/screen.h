@@ -47,6 +47,8 @@ class Screen {
   /// Whether a field has typing to take back, or to make again.
   bool HasUndo(const std::string& field) const;
   bool HasRedo(const std::string& field) const;
+  /// A field with words that no record can hold yet and that its own undo can take back; empty: none.
+  std::string FieldWithUnheldWords() const;
 
   /// The field whose own undo is next: the one with the focus, or else one with words that no record can
   /// hold, those of a link without a target or of music without a text. Empty if there is none.

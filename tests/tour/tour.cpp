@@ -58,6 +58,7 @@ bool Tour::Play() {
   InsertAPage();
   ClearAndUndo();
   FindAndReplace();
+  LookThroughThePanels();
   MoveBlocks();
   FillThePlanner();
   SaveAndLoadThePlan();

@@ -33,6 +33,7 @@ class Tour {
   void InsertAPage();
   void ClearAndUndo();
   void FindAndReplace();
+  void LookThroughThePanels();
   void MoveBlocks();
   void FillThePlanner();
   void SaveAndLoadThePlan();

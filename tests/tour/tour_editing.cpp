@@ -61,6 +61,27 @@ void Tour::FindAndReplace() {
   TakePicture(*window_, "found");
 }
 
+void Tour::LookThroughThePanels() {
+  constexpr int kRoomForPreview = 400;
+  const QSize size = window_->size();
+  window_->resize(size + QSize(kRoomForPreview, 0));
+  ShowPage(4);
+  Choose("ViewPreview");
+  TakePicture(*window_, "preview");
+  auto& device = Find<QWidget>(*window_, "Device");
+  QTest::keyClick(&device, Qt::Key_Escape);
+  TakePicture(*window_, "notes-menu");
+  Choose("ViewPreview");
+  window_->resize(size);
+  Choose("ViewCheck");
+  TakePicture(*window_, "check");
+  Choose("ViewFindAll");
+  TypeInto(*window_, "FindWhat", "caf\u00E9");
+  TakePicture(*window_, "find-all");
+  Choose("ViewFindAll");
+  Choose("ViewCheck");
+}
+
 void Tour::MoveBlocks() {
   FillIn("BlockCopy", "EditBlockCopy", {"2", "4", "20"}, "block-copy");
   FillIn("BlockClear", "EditBlockClear", {"21", "22"}, "block-clear");

@@ -1,22 +1,17 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
+
+#include "core/document/field_part.h"
 
 namespace tavrel {
 
-/// What a finding is about. Fields are those of the editor.
-enum class Field { Project, Page, Title, Text, LinkText, LinkTarget, MusicText, MusicLink };
-
-/// One thing that would go wrong on the iPod, or on the way there.
-struct Finding {
-  int Page = 0;  ///< 1 to 1000; 0 if it is about the whole project
-  Field Where = Field::Page;
-  int Link = 0;              ///< of a link's fields: its row, from 1
-  std::size_t Position = 0;  ///< where the culprit begins in the field, in bytes from 0
-  std::size_t Length = 0;    ///< of the culprit, in bytes; 0 if it is the field as a whole
-  std::string Sentence;      ///< in plain words, with a capital and a full stop
+/// One thing that would go wrong on the iPod, or on the way there, and where the culprit stands.
+struct Finding : FieldPart {
+  std::string Sentence;  ///< in plain words, with a capital and a full stop
   bool StopsPublishing = false;
+  bool CutsNote = false;      ///< an iPod does not show all of the note
+  bool LeadsNowhere = false;  ///< a link that is published has no page behind it
 };
 
 }  // namespace tavrel

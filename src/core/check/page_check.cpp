@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "core/check/link_target.h"
-#include "core/check/page_parts.h"
+#include "core/document/page_parts.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -166,6 +166,8 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
   const auto add = [&](std::string sentence) {
     AddAt(where, row, 0, target.size(), std::move(sentence));
     report_.Findings.back().StopsPublishing = leads.What == Kind::ImpossibleMusic && is_published;
+    report_.Findings.back().LeadsNowhere =
+        (leads.What == Kind::EmptyPage || leads.What == Kind::NoPage) && is_published;
   };
   switch (leads.What) {
     case Kind::Page:

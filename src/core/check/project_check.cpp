@@ -1,14 +1,11 @@
 #include "core/check/project_check.h"
 
 #include <algorithm>
-#include <array>
+#include <memory>
 #include <string>
 #include <utility>
 
-#include "core/check/page_check.h"
 #include "core/ipod/device_limits.h"
-#include "core/text/numbers.h"
-#include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
@@ -17,103 +14,115 @@ std::string Bytes(std::size_t count) {
   return count == 1 ? "1 byte" : std::to_string(count) + " bytes";
 }
 
-/// Looks at all pages.
-class ProjectCheck {
- public:
-  ProjectCheck(const Global& global, const CodePage& code_page, const PublishOptions& options)
-      : global_(global), code_page_(code_page), options_(options) {}
+Finding& Add(std::vector<Finding>& findings, int page, Field where, std::string sentence) {
+  Finding& finding = findings.emplace_back();
+  finding.Page = page;
+  finding.Where = where;
+  finding.Sentence = std::move(sentence);
+  return finding;
+}
 
-  std::vector<Finding> Run(int other_notes) {
-    CheckPages();
-    FindReachedPages();
-    AddUnreachedPages();
-    std::stable_sort(findings_.begin(), findings_.end(),
-                     [](const Finding& one, const Finding& other) { return one.Page < other.Page; });
-    CheckNumberOfNotes(other_notes);
-    CheckUnstored();
-    return std::move(findings_);
-  }
+void CheckLength(const Global& global, int page, const PublishOptions& options, PageReport& report) {
+  const auto stops = [](const Finding& finding) { return finding.StopsPublishing; };
+  if (std::any_of(report.Findings.begin(), report.Findings.end(), stops)) return;
+  const std::size_t length = NoteText(global, page, options).size();
+  if (length <= kShownBytes) return;
+  Add(report.Findings, page, Field::Page,
+      "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.")
+      .CutsNote = true;
+}
 
- private:
-  void Add(int page, Field where, std::string sentence) {
-    Finding& finding = findings_.emplace_back();
-    finding.Page = page;
-    finding.Where = where;
-    finding.Sentence = std::move(sentence);
-  }
+void CheckNumberOfNotes(std::size_t notes, std::vector<Finding>& findings) {
+  if (notes > static_cast<std::size_t>(kMostNotes))
+    Add(findings, 0, Field::Project,
+        "There would be " + std::to_string(notes) + " notes. An iPod shows 1,000.");
+}
 
-  void CheckPages() {
-    for (int page = 1; page <= kLastPage; ++page) {
-      if (global_.Page(page).empty()) continue;
-      ++notes_;
-      PageReport report = CheckPage(global_, page, code_page_);
-      leads_to_.at(static_cast<std::size_t>(page)) = std::move(report.LeadsTo);
-      const bool can_be_published =
-          std::none_of(report.Findings.begin(), report.Findings.end(),
-                       [](const Finding& finding) { return finding.StopsPublishing; });
-      std::move(report.Findings.begin(), report.Findings.end(), std::back_inserter(findings_));
-      if (can_be_published) CheckLength(page);
-    }
-  }
-
-  void CheckLength(int page) {
-    const std::size_t length = NoteText(global_, page, options_).size();
-    if (length <= kShownBytes) return;
-    Add(page, Field::Page,
-        "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.");
-  }
-
-  void FindReachedPages() {
-    std::vector<int> ahead;
-    const auto reach = [&](int page) {
-      if (!std::exchange(is_reached_.at(static_cast<std::size_t>(page)), true)) ahead.push_back(page);
-    };
-    if (!global_.Page(1).empty()) reach(1);
-    while (!ahead.empty()) {
-      const int page = ahead.back();
-      ahead.pop_back();
-      for (const int next : leads_to_.at(static_cast<std::size_t>(page))) reach(next);
-    }
-  }
-
-  void AddUnreachedPages() {
-    if (global_.Page(1).empty()) {
-      if (notes_ > 0) Add(1, Field::Page, "The page is empty, so no page is reached from it.");
-      return;
-    }
-    for (int page = 1; page <= kLastPage; ++page) {
-      if (global_.Page(page).empty() || is_reached_.at(static_cast<std::size_t>(page))) continue;
-      Add(page, Field::Page, "No links lead here from page 001.");
-    }
-  }
-
-  void CheckNumberOfNotes(int other_notes) {
-    const int notes = notes_ + other_notes;
-    if (notes > kMostNotes)
-      Add(0, Field::Project, "There would be " + std::to_string(notes) + " notes. An iPod shows 1,000.");
-  }
-
-  void CheckUnstored() {
-    if (!global_.MusicLink(kLastMusicLink).empty())
-      Add(0, Field::Project, "Music link M100 is not stored in the project's file.");
-    if (!global_.Page(kLastRecord).empty())
-      Add(0, Field::Project, "A page 1000 is neither stored nor published.");
-  }
-
-  const Global& global_;
-  const CodePage& code_page_;
-  const PublishOptions& options_;
-  std::vector<Finding> findings_;
-  std::array<std::vector<int>, kLastPage + 1> leads_to_;
-  std::array<bool, kLastPage + 1> is_reached_{};
-  int notes_ = 0;
-};
+void CheckUnstored(const Global& global, std::vector<Finding>& findings) {
+  if (!global.MusicLink(kLastMusicLink).empty())
+    Add(findings, 0, Field::Project, "Music link M100 is not stored in the project's file.");
+  if (!global.Page(kLastRecord).empty())
+    Add(findings, 0, Field::Project, "A page 1000 is neither stored nor published.");
+}
 
 }  // namespace
 
+std::vector<Finding> ProjectCheck::Run(const Global& global, const CodePage& code_page,
+                                       const PublishOptions& options, int other_notes) {
+  Renew(global, options);
+  CheckPages(global, code_page);
+  std::vector<Finding> findings;
+  for (const CheckedPage& page : pages_)
+    findings.insert(findings.end(), page.Report.Findings.begin(), page.Report.Findings.end());
+  AddUnreachedPages(findings);
+  std::stable_sort(findings.begin(), findings.end(),
+                   [](const Finding& one, const Finding& other) { return one.Page < other.Page; });
+  CheckNumberOfNotes(surroundings_.IsPage.count() + static_cast<std::size_t>(other_notes), findings);
+  CheckUnstored(global, findings);
+  return findings;
+}
+
+/// Forgets all pages if what surrounds them has changed.
+void ProjectCheck::Renew(const Global& global, const PublishOptions& options) {
+  Surroundings now{{}, global.MusicLinks, options};
+  for (int page = 1; page <= kLastPage; ++page)
+    now.IsPage[static_cast<std::size_t>(page)] = !global.Page(page).empty();
+  const auto shares = [](const Record& one, const Record& other) { return one.Shares(other); };
+  const bool is_same =
+      now.IsPage == surroundings_.IsPage &&
+      std::equal(now.MusicLinks.begin(), now.MusicLinks.end(), surroundings_.MusicLinks.begin(), shares) &&
+      now.Options == surroundings_.Options;
+  if (!is_same) pages_ = {};
+  surroundings_ = std::move(now);
+}
+
+void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
+  for (int page = 1; page <= kLastPage; ++page) {
+    const Record& bytes = global.Page(page);
+    CheckedPage& checked = At(page);
+    if (bytes.Shares(checked.Bytes)) continue;
+    checked = {bytes, {}};
+    if (bytes.empty()) continue;
+    checked.Report = CheckPage(global, page, code_page);
+    CheckLength(global, page, surroundings_.Options, checked.Report);
+  }
+}
+
+/// The pages to which one comes from page 1 on.
+std::bitset<kLastPage + 1> ProjectCheck::ReachedPages() const {
+  std::bitset<kLastPage + 1> reached;
+  std::vector<int> ahead;
+  const auto reach = [&](int page) {
+    auto is_reached = reached[static_cast<std::size_t>(page)];
+    if (is_reached) return;
+    is_reached = true;
+    ahead.push_back(page);
+  };
+  reach(1);
+  while (!ahead.empty()) {
+    const int page = ahead.back();
+    ahead.pop_back();
+    for (const int next : At(page).Report.LeadsTo) reach(next);
+  }
+  return reached;
+}
+
+void ProjectCheck::AddUnreachedPages(std::vector<Finding>& findings) const {
+  if (surroundings_.IsPage.none()) return;
+  if (!surroundings_.IsPage[1]) {
+    Add(findings, 1, Field::Page, "The page is empty, so no page is reached from it.");
+    return;
+  }
+  const std::bitset<kLastPage + 1> reached = ReachedPages();
+  for (std::size_t page = 1; page <= kLastPage; ++page) {
+    if (surroundings_.IsPage[page] && !reached[page])
+      Add(findings, static_cast<int>(page), Field::Page, "No links lead here from page 001.");
+  }
+}
+
 std::vector<Finding> CheckProject(const Global& global, const CodePage& code_page,
                                   const PublishOptions& options, int other_notes) {
-  return ProjectCheck(global, code_page, options).Run(other_notes);
+  return std::make_unique<ProjectCheck>()->Run(global, code_page, options, other_notes);
 }
 
 }  // namespace tavrel

@@ -18,6 +18,11 @@ bool IsTyped(const Global& global, const Shown& shown) {
   return !(global.Page(shown.At.Page) == shown.Typed);
 }
 
+/// Whether a step has stored the page that is still in the fields.
+bool IsShown(const Step* step, const Shown& shown) {
+  return step != nullptr && step->Showing == shown.Showing;
+}
+
 }  // namespace
 
 void StepRecorder::Start() {
@@ -38,7 +43,7 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
   const Shown before = std::move(*before_);
   before_.reset();
   Step changed = Difference(document_, global);
-  if (IsOnlyRewritten(before, changed)) {
+  if (IsOnlyRewritten(before, changed, shown.Showing)) {
     history_.Amend(changed.Pages.front());
   } else {
     if (AddTyped(before, global, shown.Showing)) changed = Difference(document_, global);
@@ -48,10 +53,13 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
 }
 
 /// Whether all that the command did was to store a page as the editor writes it, without anything typed.
-bool StepRecorder::IsOnlyRewritten(const Shown& editor, const Step& changed) const {
+bool StepRecorder::IsOnlyRewritten(const Shown& editor, const Step& changed, std::size_t showing) const {
   if (changed.Pages.size() != 1 || !changed.MusicLinks.empty()) return false;
   const Change& change = changed.Pages.front();
-  return change.Number == editor.At.Page && editor.Rewritten && change.After == *editor.Rewritten;
+  // To clear a page of which nothing would be stored is a command all the same.
+  const bool is_cleared = change.After.empty() && !name_.empty() && showing != editor.Showing;
+  return change.Number == editor.At.Page && editor.Rewritten && change.After == *editor.Rewritten &&
+         !is_cleared;
 }
 
 /// Makes a step of its own of what was typed on the page, whether the command has stored it or dropped it.
@@ -93,10 +101,14 @@ const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>&
   const Shown before = std::move(*before_);
   before_.reset();
   const Step* undone = nullptr;
+  // What the fields could make again is all stored: nothing is typed, they have only gone back.
+  const bool is_stored = with_redo && global.Page(before.At.Page) == *with_redo;
   if (IsTyped(global, before)) {
     const std::size_t steps = StepsSinceTyped(before);
     for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
+    if (steps == 0 && is_stored && IsShown(history_.NextUndo(), before)) return &history_.Undo(global);
     if (steps == 0) AddStored(before, global.Page(before.At.Page) = before.Typed, 0);
+    if (steps > 0 && is_stored) return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
   }
   if (with_redo && *with_redo != before.Typed) undone = &AddTakenBack(global, before, *with_redo);
   return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
@@ -138,11 +150,11 @@ std::optional<std::string> StepRecorder::RedoName(const Global& global, const Sh
 std::size_t StepRecorder::StepsSinceTyped(const Shown& shown) const {
   for (std::size_t count = 0;; ++count) {
     const Step* step = history_.StepBack(count);
-    if (step == nullptr || step->Showing != shown.Showing) return 0;
-    if (step->Pages.front().Before == shown.Typed) return count + 1;
-    const Step* older = history_.StepBack(count + 1);
-    const bool is_first = older == nullptr || older->Showing != shown.Showing;
-    if (is_first && shown.AtFirst == shown.Typed) return count + 1;
+    if (!IsShown(step, shown)) return 0;
+    const Record& stored = step->Pages.front().Before;
+    if (stored == shown.Typed) return count + 1;
+    // Brought into the fields, the page was written in another order.
+    if (stored == shown.RecordAtFirst && shown.AtFirst == shown.Typed) return count + 1;
   }
 }
 

@@ -17,7 +17,8 @@ struct Shown {
   std::size_t Showing = 0;  ///< another number each time that a page is brought into the fields
   /// What storing would make of a page that nobody has touched; nothing if the same.
   std::optional<std::string> Rewritten = {};
-  std::string AtFirst = {};  ///< what storing would have made of it when it was brought into the fields
+  std::string AtFirst = {};   ///< what storing would have made of it when it was brought into the fields
+  Record RecordAtFirst = {};  ///< the page then
 };
 
 /// Records what the commands do to the document, by looking at it before and after each of them. What was
@@ -52,7 +53,7 @@ class StepRecorder {
   bool IsSaved() const { return history_.IsSaved(); }
 
  private:
-  bool IsOnlyRewritten(const Shown& editor, const Step& changed) const;
+  bool IsOnlyRewritten(const Shown& editor, const Step& changed, std::size_t showing) const;
   bool AddTyped(const Shown& editor, const Global& global, std::size_t showing);
   bool AddStored(const Shown& editor, const Record& stored, std::size_t showing);
   const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);

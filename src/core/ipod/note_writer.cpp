@@ -108,15 +108,18 @@ std::string NoteName(int page) {
   return "z" + FormatPage(page) + ".txt";
 }
 
-std::string NoteText(const Global& global, int page, const PublishOptions& options) {
-  const std::string& record = global.Page(page);
-  std::string note;
-  note.reserve(record.size() + record.size() / 4);
-  note.append("<title>")
+std::string NoteTitleLine(const Global& global, int page) {
+  return std::string("<title>")
       .append(page == 1 ? "-" : "")
-      .append(TagContent(record, "<title>", 1))
+      .append(TagContent(global.Page(page), "<title>", 1))
       .append("</title>")
       .append(kLineEnd);
+}
+
+std::string NoteText(const Global& global, int page, const PublishOptions& options) {
+  const std::string& record = global.Page(page);
+  std::string note = NoteTitleLine(global, page);
+  note.reserve(record.size() + record.size() / 4);
   note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
   if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
 

@@ -13,6 +13,8 @@ namespace tavrel {
 struct PublishOptions {
   bool NotesMenuLink = false;    ///< end every note with a link back to the Notes menu
   bool BackgroundMusic = false;  ///< choosing music does not leave the note
+
+  bool operator==(const PublishOptions&) const = default;
 };
 
 /// A page's text with its inline links as the device's anchors: the k-th "<" opens the page's k-th link and
@@ -26,6 +28,9 @@ std::string GetMusic(const Global& global, std::string_view reference);
 
 /// The file name of a page's note: 7 is "z007.txt".
 std::string NoteName(int page);
+
+/// The first line of a page's note: its title as the device lists it. Page 1 comes first there.
+std::string NoteTitleLine(const Global& global, int page);
 
 /// The bytes of a page's note file.
 std::string NoteText(const Global& global, int page, const PublishOptions& options);

@@ -24,6 +24,7 @@ std::string NameOf(std::string_view tag) {
   std::string name;
   for (const char character : tag.substr(1)) {
     if (character == '>' || character == ' ' || character == '\r' || character == '\n') break;
+    if (character == '/' && !name.empty()) break;  // <br/>
     name += Lower(character);
   }
   return name;

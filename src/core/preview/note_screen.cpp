@@ -6,14 +6,16 @@
 namespace tavrel {
 namespace {
 
-/// How many characters from the front fit; at least one.
+/// How many characters from the front fit; at least one if there are any.
 std::size_t FittingLength(std::string_view text, int width, const TextWidth& width_of) {
-  std::size_t fits = 1;
+  std::size_t fits = std::min<std::size_t>(text.size(), 1);
   std::size_t too_long = text.size() + 1;
-  while (fits + 1 < too_long) {
-    const std::size_t middle = fits + (too_long - fits) / 2;
-    (width_of(text.substr(0, middle)) <= width ? fits : too_long) = middle;
-  }
+  const auto measure = [&](std::size_t length) {
+    (width_of(text.substr(0, length)) <= width ? fits : too_long) = length;
+  };
+  // Never much more than fits is measured: a note may be one long line.
+  for (std::size_t length = 2; length < too_long; length *= 2) measure(length);
+  while (fits + 1 < too_long) measure(fits + (too_long - fits) / 2);
   return fits;
 }
 
@@ -26,11 +28,12 @@ std::size_t BreakAt(std::string_view line, std::size_t fits) {
 
 void WrapLine(std::string_view line, std::size_t start, int width, const TextWidth& width_of,
               std::vector<ScreenLine>& lines) {
-  while (width_of(line) > width && line.size() > 1) {
-    const std::size_t end = std::min(BreakAt(line, FittingLength(line, width, width_of)), line.size());
+  for (std::size_t fits; (fits = FittingLength(line, width, width_of)) < line.size();) {
+    const std::size_t end = std::min(BreakAt(line, fits), line.size());
     lines.push_back({start, end});
     start += end;
     line.remove_prefix(end);
+    if (line.empty()) return;  // but for the blank at its end, it was long enough
   }
   lines.push_back({start, line.size()});
 }
@@ -71,6 +74,12 @@ void NoteScreen::TurnBack() {
     --top_;
     FollowScreen();
   }
+}
+
+void NoteScreen::Return(std::size_t top, std::optional<std::size_t> link) {
+  top_ = std::min(top, lines_.size() - std::min(lines_.size(), height_));
+  current_ = link && *link < note_.Links.size() ? link : std::nullopt;
+  FollowScreen();
 }
 
 std::size_t NoteScreen::LineOf(std::size_t link) const {

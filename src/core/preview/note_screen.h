@@ -55,6 +55,8 @@ class NoteScreen {
   /// One notch of the wheel: to the next link if that is on the screen, else one line further.
   void TurnForward();
   void TurnBack();
+  /// Back to where the note was left; as near as it comes if the note has changed.
+  void Return(std::size_t top, std::optional<std::size_t> link);
 
  private:
   std::size_t LineOf(std::size_t link) const;

@@ -57,7 +57,7 @@ void HistoryCommands::EditRedo_Click() {
   if (QWidget* control = editor_.FieldWithRedo()) {
     control->setFocus();
     FieldOf(control)->Redo();
-  } else if (const Step* step = app_.Steps.Redo(app_.State)) {
+  } else if (const Step* step = RedoName() ? app_.Steps.Redo(app_.State) : nullptr) {
     Show(step->After, tr("Redone: %1").arg(QString::fromStdString(step->Name)));
   }
 }
@@ -83,6 +83,8 @@ std::optional<QString> HistoryCommands::UndoName() const {
 
 std::optional<QString> HistoryCommands::RedoName() const {
   if (editor_.FieldWithRedo() != nullptr) return tr("typing");
+  // A step that shows a page would throw such words away.
+  if (editor_.FieldWithUnheldWords() != nullptr) return std::nullopt;
   return ToName(app_.Steps.RedoName(app_.State, editor_.Now()));
 }
 

@@ -39,7 +39,7 @@ void SearchCommands::EditReplace_Click() {
   const int pages = ReplaceInPages(app_.State, app_.State.FindText, form.ReplacementText(),
                                    form.IsCaseMatched(), app_.CodePageInUse());
   const QString name = pages == 1 ? tr("Replace in 1 page") : tr("Replace in %1 pages").arg(pages);
-  app_.Steps.Name(name.toStdString());
+  if (pages > 0) app_.Steps.Name(name.toStdString());
   editor_.LoadPage(app_.State.CurrentPage);
 }
 

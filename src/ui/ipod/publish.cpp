@@ -1,7 +1,10 @@
 #include "ui/ipod/publish.h"
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
+#include "core/check/project_check.h"
 #include "core/ipod/note_writer.h"
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
@@ -22,6 +25,8 @@ Publish::Publish(App& app, QWidget* parent) : Dialog(app, parent), ui_(std::make
   On(app_.Control, ui_->Command2, &QPushButton::clicked, this, [this] { Command2_Click(); });
   On(app_.Control, ui_->Drive1, &DriveList::Change, this, [this] { Drive1_Change(); });
   On(app_.Control, ui_->Dir1, &FolderList::Change, this, [this] { Dir1_Change(); });
+  for (const QCheckBox* choice : {ui_->Check1, ui_->Check2})
+    On(app_.Control, choice, &QAbstractButton::toggled, this, [this] { ShowCheck(); });
   Form_Load();
 }
 
@@ -30,6 +35,26 @@ Publish::~Publish() = default;
 void Publish::Form_Load() {
   side_->Show(app_.State.ProgramFolder);
   ui_->Text1->SetBytes(NameInCodePage(DocumentName(app_.State), app_.CodePageInUse()));
+  ShowCheck();
+}
+
+PublishOptions Publish::Options() const {
+  return {.NotesMenuLink = ui_->Check1->isChecked(), .BackgroundMusic = ui_->Check2->isChecked()};
+}
+
+void Publish::ShowCheck() {
+  const std::vector<Finding> findings = CheckProject(app_.State, app_.CodePageInUse(), Options());
+  const auto count = [&](bool Finding::*what) {
+    return static_cast<int>(
+        std::count_if(findings.begin(), findings.end(), [what](const Finding& f) { return f.*what; }));
+  };
+  QStringList troubles;
+  if (const int cut = count(&Finding::CutsNote); cut > 0)
+    troubles << (cut == 1 ? tr("1 note will be cut") : tr("%L1 notes will be cut").arg(cut));
+  if (const int dead = count(&Finding::LeadsNowhere); dead > 0)
+    troubles << (dead == 1 ? tr("1 link leads nowhere") : tr("%L1 links lead nowhere").arg(dead));
+  ui_->CheckLine->setVisible(!troubles.isEmpty());
+  ui_->CheckLine->setText(troubles.join(tr(", ")) + tr("; see View > Project check."));
 }
 
 void Publish::Drive1_Change() {
@@ -48,11 +73,9 @@ void Publish::Command2_Click() {
   std::string name = CleanName(ui_->Text1->Bytes());
   std::erase(name, '\0');
   if (name.empty()) return;
-  const PublishOptions options{.NotesMenuLink = ui_->Check1->isChecked(),
-                               .BackgroundMusic = ui_->Check2->isChecked()};
   try {
     const Hourglass hourglass;
-    PublishNotes(app_.State, app_.System, side_->Folder() / PathFromTypedName(name, app_.System), options);
+    PublishNotes(app_.State, app_.System, side_->Folder() / PathFromTypedName(name, app_.System), Options());
   } catch (const FileError& error) {
     ShowError(error);
     return;

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "core/ipod/note_writer.h"
 #include "core/text/run_time_error.h"
 #include "ui/controls/dialog.h"
 #include "ui/ipod/folder_side.h"
@@ -28,6 +29,9 @@ class Publish : public Dialog {
   void Dir1_Change();
 
  private:
+  PublishOptions Options() const;
+  /// Says in a line what will not come out well.
+  void ShowCheck();
   void ShowError(const FileError& error);
 
   std::unique_ptr<Ui::Publish> ui_;

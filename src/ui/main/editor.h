@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "core/document/field_part.h"
 #include "core/history/step_recorder.h"
 
 class QWidget;
@@ -48,6 +49,11 @@ class Editor {
   virtual QWidget* FieldWithRedo() const = 0;
   /// Shows the document as it is now, at a place in it.
   virtual void ShowAt(const Place& place) = 0;
+  /// Stores the page and shows another one, 1 to 999.
+  virtual void ShowPage(int page) = 0;
+  /// Stores the page and shows a part of a field, selected. What is no part of the pages 1 to 999 is left
+  /// alone.
+  virtual void ShowPart(const FieldPart& part) = 0;
 
   /// Renews the music links in the lists of targets, and the page's own from its record. The lists' pages and
   /// what was typed as a link's target stay.

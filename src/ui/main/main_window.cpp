@@ -1,6 +1,8 @@
 #include "ui/main/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDockWidget>
 #include <QTimer>
 
 #include "core/document/document_file.h"
@@ -18,6 +20,7 @@
 #include "ui/main/page_editor.h"
 #include "ui/main/page_grids.h"
 #include "ui/shell/skin_pictures.h"
+#include "ui/view/view_panels.h"
 #include "ui_main_window.h"
 
 namespace tavrel {
@@ -43,6 +46,8 @@ Main::Main(App& app)
       ui_->ToolBar->findChildren<PictureButton*>(),
       QList<QWidget*>{ui_->Background, ui_->ToolBar, ui_->PagesPane, ui_->WritingPart, ui_->LinksPart});
   steps_ = std::make_unique<CommandSteps>(app_, *this);
+  panels_ = std::make_unique<ViewPanels>(app_, ViewItems{ui_->ViewPreview, ui_->ViewCheck, ui_->ViewFindAll},
+                                         *this, *this);
   ScaleFont(*ui_->CoverTitle, kTitleFont);
   ui_->Panes->setStretchFactor(1, 1);
   ui_->PagePane->setStretchFactor(0, 1);
@@ -118,6 +123,7 @@ void Main::LoadPage(int page) {
   app_.State.CurrentLink = 1;
   grids_->SelectPage(page);
   first_record_ = RecordOfFields();
+  loaded_record_ = app_.State.Page(page);
   shown_record_ = first_record_;
   ++showing_;
 }
@@ -162,6 +168,11 @@ std::string Main::TypedPage() const {
 
 QWidget* Main::ControlWithFocus() const {
   QWidget* control = focusWidget();
+  // A panel that floats is a window of its own, but its keys come here.
+  QWidget* panel_control = QApplication::focusWidget();
+  if (panel_control != nullptr && panel_control->window()->parentWidget() == this &&
+      qobject_cast<QDockWidget*>(panel_control->window()) != nullptr)
+    control = panel_control;
   return control == menuBar() ? last_focus_.Control() : control;
 }
 
@@ -177,7 +188,8 @@ Shown Main::Now() const {
           .Typed = is_untouched ? record : typed,
           .Showing = showing_,
           .Rewritten = is_untouched && typed != record ? std::optional(typed) : std::nullopt,
-          .AtFirst = first_record_};
+          .AtFirst = first_record_,
+          .RecordAtFirst = loaded_record_};
 }
 
 std::optional<std::string> Main::TypedWithRedo() {
@@ -205,6 +217,21 @@ void Main::ShowAt(const Place& place) {
   if (place.Row > 0) grids_->SelectLink(place.Row);
   app_.State.CurrentLink = static_cast<std::int16_t>(place.Link);
   page_->ShowCaret(place);
+}
+
+void Main::ShowPage(int page) {
+  StoreTyped();
+  app_.State.CurrentPage = static_cast<std::int16_t>(page);
+  LoadPage(page);
+}
+
+void Main::ShowPart(const FieldPart& part) {
+  if (!app_.State.IsDocumentShown || part.Page < 1 || part.Page > kLastPage) return;
+  // To store an untouched page could move the part: fields are trimmed.
+  const bool is_here = part.Page == app_.State.CurrentPage;
+  if (!is_here || Now().Typed != app_.State.Page(part.Page).Bytes()) StoreTyped();
+  ShowAt(page_->PlaceOf(part));
+  page_->Select(part);
 }
 
 void Main::TellRecovered(const QString& notice) {

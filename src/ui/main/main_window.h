@@ -26,6 +26,7 @@ class CommandSteps;
 class PageEditor;
 class PageGrids;
 class SkinPictures;
+class ViewPanels;
 
 /// The program's editor window.
 class Main : public QMainWindow, public Editor {
@@ -51,6 +52,8 @@ class Main : public QMainWindow, public Editor {
   QWidget* FieldWithUnheldWords() const override;
   QWidget* FieldWithRedo() const override;
   void ShowAt(const Place& place) override;
+  void ShowPage(int page) override;
+  void ShowPart(const FieldPart& part) override;
   void RefreshMusicLinks() override;
   void ShowControls() override;
   void HideControls() override;
@@ -111,9 +114,11 @@ class Main : public QMainWindow, public Editor {
   std::unique_ptr<Commands> commands_;
   std::unique_ptr<HoverOutline> outline_;
   std::unique_ptr<CommandSteps> steps_;
+  std::unique_ptr<ViewPanels> panels_;
   LastFocus last_focus_;
   QTimer* timer1_;
   std::string first_record_;  ///< what the fields gave when the page was shown
+  Record loaded_record_;      ///< the page then
   std::string shown_record_;  ///< what they gave when it was shown or stored
   std::size_t showing_ = 0;   ///< counts the pages shown
 };

@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 #include <vector>
 
@@ -73,6 +74,46 @@ void PageEditor::FocusOn(const Place& place) {
 
 void PageEditor::ShowCaret(const Place& place) {
   FieldOf(&FieldAt(place))->SetCaret(place.Anchor, place.Caret);
+}
+
+Place PageEditor::PlaceOf(const FieldPart& part) const {
+  const int row = std::clamp(part.Link, 1, kLastLink);
+  return {part.Page, row, ControlOf(part.Where).objectName().toStdString(), 0, 0, row};
+}
+
+void PageEditor::Select(const FieldPart& part) {
+  QWidget& control = ControlOf(part.Where);
+  if (part.Where == Field::Page) return;
+  if (&control == ui_.Text1) {
+    ui_.Text1->Select(part.Position, part.Length);
+    return;
+  }
+  // A field that is shorter than it was selects up to its end; no length means all of it.
+  const auto start = static_cast<int>(part.Position);
+  const int end = part.Length == 0 ? std::numeric_limits<int>::max() : start + static_cast<int>(part.Length);
+  FieldOf(&control)->SetCaret(start, end);
+}
+
+QWidget& PageEditor::ControlOf(Field field) const {
+  switch (field) {
+    case Field::Title:
+      return *ui_.Text3;
+    case Field::Note:
+      return *ui_.Text4;
+    case Field::LinkText:
+      return *ui_.Text5;
+    case Field::LinkTarget:
+      return *ui_.Combo1;
+    case Field::MusicText:
+      return *ui_.Text6;
+    case Field::MusicLink:
+      return *ui_.Combo2;
+    case Field::Project:
+    case Field::Page:
+    case Field::Text:
+      break;
+  }
+  return *ui_.Text1;
 }
 
 void PageEditor::WithRedo(const std::function<void()>& look) {

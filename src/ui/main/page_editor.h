@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 
+#include "core/document/field_part.h"
 #include "core/document/page_record.h"
 #include "core/history/history.h"
 #include "ui/app.h"
@@ -38,6 +39,11 @@ class PageEditor {
   /// Puts the caret of that field there.
   void ShowCaret(const Place& place);
 
+  /// The field of a part, with the caret at its beginning.
+  Place PlaceOf(const FieldPart& part) const;
+  /// Selects a part of the page that is shown.
+  void Select(const FieldPart& part);
+
   /// Calls `look` while everything stands in the fields that their own undo has taken back.
   void WithRedo(const std::function<void()>& look);
   /// As the editor is asked for them.
@@ -52,6 +58,7 @@ class PageEditor {
  private:
   std::array<QWidget*, 7> Fields() const;
   QWidget& FieldAt(const Place& place) const;
+  QWidget& ControlOf(Field field) const;
 
   App& app_;
   Ui::Main& ui_;

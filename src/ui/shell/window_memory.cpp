@@ -1,5 +1,8 @@
 #include "ui/shell/window_memory.h"
 
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QMainWindow>
 #include <QSettings>
 #include <QSplitter>
 #include <QWidget>
@@ -24,6 +27,33 @@ void RestoreSplitter(QSplitter& splitter, const QByteArray& state) {
   if (OnlyPositionsDiffer(state, splitter.saveState(), splitter.count())) splitter.restoreState(state);
 }
 
+/// Choices that are about nothing but how the window looks.
+QList<QWidget*> RememberedChoices(const QWidget& window) {
+  QList<QWidget*> choices;
+  for (QWidget* control : window.findChildren<QWidget*>()) {
+    if (control->property("remembered").toBool()) choices << control;
+  }
+  return choices;
+}
+
+QVariant ChoiceOf(const QWidget& control) {
+  if (const auto* list = qobject_cast<const QComboBox*>(&control)) return list->currentIndex();
+  const auto* box = qobject_cast<const QAbstractButton*>(&control);
+  return box != nullptr && box->isChecked();
+}
+
+void Choose(QWidget& control, const QVariant& choice) {
+  if (!choice.isValid()) return;
+  if (auto* list = qobject_cast<QComboBox*>(&control)) {
+    bool is_number = false;
+    const int index = choice.toString().toInt(&is_number);
+    if (is_number && index >= 0 && index < list->count()) list->setCurrentIndex(index);
+  }
+  if (auto* box = qobject_cast<QAbstractButton*>(&control)) {
+    if (choice == "true" || choice == "false") box->setChecked(choice.toBool());
+  }
+}
+
 }  // namespace
 
 void RememberWindow(const QWidget& window, QSettings& memory) {
@@ -31,6 +61,10 @@ void RememberWindow(const QWidget& window, QSettings& memory) {
   for (const QSplitter* splitter : window.findChildren<QSplitter*>()) {
     memory.setValue(Key(window, splitter->objectName()), splitter->saveState());
   }
+  if (const auto* main = qobject_cast<const QMainWindow*>(&window))
+    memory.setValue(Key(window, "panels"), main->saveState());
+  for (const QWidget* choice : RememberedChoices(window))
+    memory.setValue(Key(window, choice->objectName()), ChoiceOf(*choice));
   // The program may end right after this.
   memory.sync();
 }
@@ -40,6 +74,10 @@ void RestoreWindow(QWidget& window, const QSettings& memory) {
   for (QSplitter* splitter : window.findChildren<QSplitter*>()) {
     RestoreSplitter(*splitter, memory.value(Key(window, splitter->objectName())).toByteArray());
   }
+  if (auto* main = qobject_cast<QMainWindow*>(&window))
+    main->restoreState(memory.value(Key(window, "panels")).toByteArray());
+  for (QWidget* choice : RememberedChoices(window))
+    Choose(*choice, memory.value(Key(window, choice->objectName())));
 }
 
 }  // namespace tavrel

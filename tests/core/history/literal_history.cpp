@@ -52,7 +52,8 @@ std::size_t LiteralHistory::StoringsSince(const Typing& shown) const {
   };
   for (std::size_t step = done_; is_storing(step); --step) {
     if (states_[step - 1].Page(shown.Page) == shown.Typed) return done_ - step + 1;
-    if (!is_storing(step - 1) && shown.AtFirst == shown.Typed) return done_ - step + 1;
+    if (states_[step - 1].Page(shown.Page) == shown.RecordAtFirst && shown.AtFirst == shown.Typed)
+      return done_ - step + 1;
   }
   return 0;
 }
@@ -69,10 +70,20 @@ std::optional<LiteralHistory::Taken> LiteralHistory::Undo(const Typing& shown, c
     taken = {steps_[done_].Name, steps_[done_].PageBefore};
   };
   if (!IsTyped(shown) && done_ == 0) return taken;
+  const bool has_only_gone_back = with_redo == now_.Page(shown.Page);
   if (IsTyped(shown)) {
     const std::size_t storings = StoringsSince(shown);
+    const bool is_of_showing = done_ > 0 && steps_[done_ - 1].Showing == shown.Showing;
+    if (storings == 0 && has_only_gone_back && is_of_showing) {
+      take();
+      return taken;
+    }
     if (storings == 0) AddEdit(shown, shown.Typed, 0);
     for (std::size_t storing = 0; storing < storings; ++storing) take();
+    if (storings > 0 && has_only_gone_back) {
+      if (done_ > 0) take();
+      return taken;
+    }
   }
   // What the field could make again becomes a step that is taken back.
   if (with_redo != shown.Typed) {

@@ -15,6 +15,7 @@ struct Typing {
   std::size_t Showing = 0;
   std::optional<std::string> Rewritten;  ///< what storing the page changes it to if nothing is typed on it
   std::string AtFirst;                   ///< what storing would have made of it when it was shown
+  std::string RecordAtFirst;             ///< the page then
 };
 
 /// The rules of undo, over whole copies of the document before and after each step.

@@ -110,7 +110,7 @@ void RandomEditor::ExpectSame(const char* after) {
 
 Typing RandomEditor::Now() const {
   const Shown shown = editor_.Now();
-  return {shown.At.Page, shown.Typed, shown.Showing, shown.Rewritten, shown.AtFirst};
+  return {shown.At.Page, shown.Typed, shown.Showing, shown.Rewritten, shown.AtFirst, shown.RecordAtFirst};
 }
 
 std::string RandomEditor::NameOf(const std::string& command) const {

@@ -28,6 +28,7 @@ void RecordedEditor::LoadPage(int page) {
   Field = State.Page(page);
   FieldRedo.reset();
   first_ = shown_ = Stored(Field);
+  loaded_ = State.Page(page);
   ++showing_;
 }
 
@@ -97,7 +98,8 @@ Shown RecordedEditor::Now() const {
           .Typed = TypedAs(Field),
           .Showing = showing_,
           .Rewritten = is_rewritten ? std::optional(shown_) : std::nullopt,
-          .AtFirst = first_};
+          .AtFirst = first_,
+          .RecordAtFirst = loaded_};
 }
 
 }  // namespace tavrel::test

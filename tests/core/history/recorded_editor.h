@@ -52,6 +52,7 @@ class RecordedEditor {
   std::optional<std::string> Show(const Step* step, const Place& place);
 
   std::string first_;  ///< what would have been stored when the page was shown
+  Record loaded_;      ///< the page then
   std::string shown_;  ///< the same, or what was stored since
   std::size_t showing_ = 0;
 };

@@ -51,8 +51,55 @@ TEST_F(StepRecorderTest, KeepsStoredTypingThatTheFieldHasTakenBack) {
   ExpectPages("one", "two", "three");
   ExpectRedo("Paint page 2");
   ExpectRedo("Edit page 1");
+  ExpectPages("a", "red", "three");
+  ExpectRedo("Edit page 1");
   ExpectPages("ab", "red", "three");
   ExpectNoRedo();
+}
+
+// The field has gone behind two storings with another step between them.
+TEST_F(StepRecorderTest, FollowsNoStoringBeyondAnotherStep) {
+  Editor.TypeAndStore("a");
+  Editor.Run("Paint page 2", [this] { Editor.State.Page(2) = "red"; });
+  Editor.TypeAndStore("ab");
+  Editor.Field = "one";
+  ExpectUndo("Edit page 1");
+  ExpectPages("ab", "red", "three");
+}
+
+TEST_F(StepRecorderTest, KnowsTheSavedPlaceThatTheFieldCouldMakeAgain) {
+  Editor.Run("Paint page 2", [this] { Editor.State.Page(2) = "red"; });
+  Editor.TypeAndStore("a");
+  Editor.Run({}, [this] { Editor.Steps.Saved(); });
+  Editor.Field = "one";
+  Editor.FieldRedo = "a";
+  ExpectUndo("Paint page 2");
+  ExpectRedo("Paint page 2");
+  ExpectRedo("Edit page 1");
+  ExpectPages("a", "red", "three");
+  EXPECT_TRUE(Editor.Steps.IsSaved());
+}
+
+// Two fields were written and stored, and one of them has gone back.
+TEST_F(StepRecorderTest, TakesAStoringBackThatAFieldHasGoneHalfWayBehind) {
+  Editor.TypeAndStore("title and body");
+  Editor.Field = "title";
+  Editor.FieldRedo = "title and body";
+  ExpectUndo("Edit page 1");
+  EXPECT_EQ(Page(1), "one");
+  ExpectNoUndo();
+  ExpectRedo("Edit page 1");
+  EXPECT_EQ(Page(1), "title and body");
+  ExpectNoRedo();
+}
+
+TEST_F(StepRecorderTest, ClearingAPageOfWhichNothingWouldBeStoredIsAStep) {
+  Editor.State.Page(4) = "   ";
+  Editor.LoadPage(4);
+  Editor.Clear();
+  EXPECT_EQ(Page(4), "");
+  ExpectUndo("Clear page 4");
+  EXPECT_EQ(Page(4), "   ");
 }
 
 TEST_F(StepRecorderTest, TakesBackToTheVeryFirstBytesWhateverTheFieldCouldMakeAgain) {

@@ -17,10 +17,10 @@ class MenuTest : public WindowTest {
   }
 };
 
-TEST_F(MenuTest, TheBarHoldsFileEditAndHelp) {
+TEST_F(MenuTest, TheBarHoldsFileEditViewAndHelp) {
   QStringList captions;
   for (const QAction* menu : Window().menuBar()->actions()) captions << menu->text();
-  EXPECT_EQ(captions, (QStringList{"&File", "&Edit", "&Help"}));
+  EXPECT_EQ(captions, (QStringList{"&File", "&Edit", "&View", "&Help"}));
 }
 
 TEST_F(MenuTest, FileHoldsItsEntriesInOrder) {
