@@ -43,8 +43,13 @@ fs::path Recorder::Program() {
 }
 
 Recording Recorder::Recorded() const {
-  if (!ComesTrue([this] { return fs::exists(file_); })) throw std::runtime_error("nothing was started");
-  std::ifstream lines(file_, std::ios::binary);
+  std::ifstream lines;
+  // The file may be there before it can be opened.
+  const auto is_open = [&] {
+    lines.open(file_, std::ios::binary);
+    return lines.is_open();
+  };
+  if (!ComesTrue(is_open)) throw std::runtime_error("nothing was started");
   std::string program;
   std::string folder;
   std::string process;

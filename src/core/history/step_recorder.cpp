@@ -101,16 +101,16 @@ const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>&
   const Shown before = std::move(*before_);
   before_.reset();
   const Step* undone = nullptr;
-  // What the fields could make again is all stored: nothing is typed, they have only gone back.
-  const bool is_stored = with_redo && global.Page(before.At.Page) == *with_redo;
+  bool has_gone_back = false;  // what the fields could make again is all stored: nothing is typed
   if (IsTyped(global, before)) {
     const std::size_t steps = StepsSinceTyped(before);
+    const bool is_stored = with_redo && global.Page(before.At.Page) == *with_redo;
+    has_gone_back = is_stored && (steps > 0 || IsShown(history_.NextUndo(), before));
     for (std::size_t step = 0; step < steps; ++step) undone = &history_.Undo(global);
-    if (steps == 0 && is_stored && IsShown(history_.NextUndo(), before)) return &history_.Undo(global);
-    if (steps == 0) AddStored(before, global.Page(before.At.Page) = before.Typed, 0);
-    if (steps > 0 && is_stored) return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
+    if (steps == 0 && !has_gone_back) AddStored(before, global.Page(before.At.Page) = before.Typed, 0);
   }
-  if (with_redo && *with_redo != before.Typed) undone = &AddTakenBack(global, before, *with_redo);
+  if (!has_gone_back && with_redo && *with_redo != before.Typed)
+    undone = &AddTakenBack(global, before, *with_redo);
   return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
 }
 

@@ -67,7 +67,7 @@ QDockWidget* ViewPanels::MakeDock(QWidget* panel, QAction* item, Qt::DockWidgetA
 void ViewPanels::AddCount() {
   count_->setObjectName("ProblemCount");
   count_->setAutoRaise(true);
-  count_->setFocusPolicy(Qt::NoFocus);  // the menu is the keyboard\'s way
+  count_->setFocusPolicy(Qt::NoFocus);  // the menu is the keyboard's way
   count_->setText(tr("No problems"));
   count_->setToolTip(tr("What would go wrong on the iPod"));
   connect(count_, &QAbstractButton::clicked, this, [this] {
@@ -153,7 +153,7 @@ void ViewPanels::GoAlong(int page) {
   live_.Look();  // before people go on: the page that they came to is the one in the editor
 }
 
-void ViewPanels::Lead(const FieldPart& part) {
+void ViewPanels::Lead(FieldPart part) {
   editor_.ShowPart(part);
   if (app_.State.IsDocumentShown) window_.activateWindow();
 }

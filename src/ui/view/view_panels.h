@@ -48,7 +48,7 @@ class ViewPanels : public QObject {
   bool ShowAtBottom(QDockWidget& dock, QAction& item);
   void NameTabs();
   void GoAlong(int page);
-  void Lead(const FieldPart& part);
+  void Lead(FieldPart part);  // a copy: showing it renews the lists that it stood in
 
   App& app_;
   ViewItems items_;

@@ -1,5 +1,3 @@
-#include "ui/shell/window_memory.h"
-
 #include <QFile>
 #include <QScreen>
 #include <QSettings>
@@ -10,7 +8,7 @@
 #include <ostream>
 #include <vector>
 
-#include "support/window_test.h"
+#include "remembered_window_test.h"
 
 namespace tavrel::test {
 namespace {
@@ -35,40 +33,8 @@ void PrintTo(const Division& division, std::ostream* out) {
        << division.IsCollapsible;
 }
 
-class WindowMemoryTest : public WindowTest {
+class WindowMemoryTest : public RememberedWindowTest {
  protected:
-  QString MemoryFile() const { return QString::fromStdString((Folder.Path() / "windows.ini").string()); }
-
-  /// A main window as it comes up with what is remembered, with a document open.
-  std::unique_ptr<Main> NewWindow() {
-    auto window = std::make_unique<Main>(Application);
-    window->Form_Load();
-    {
-      const QSettings memory(MemoryFile(), QSettings::IniFormat);
-      RestoreWindow(*window, memory);
-    }
-    window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    window->ShowControls();
-    Settle();
-    return window;
-  }
-
-  void Remember(const Main& window) const {
-    QSettings memory(MemoryFile(), QSettings::IniFormat);
-    RememberWindow(window, memory);
-  }
-
-  void SetRemembered(const QString& key, const QVariant& value) const {
-    QSettings memory(MemoryFile(), QSettings::IniFormat);
-    memory.setValue(key, value);
-  }
-
-  QByteArray Remembered(const QString& key) const {
-    const QSettings memory(MemoryFile(), QSettings::IniFormat);
-    return memory.value(key).toByteArray();
-  }
-
   static Division DivisionOf(const Main& window, const QString& name) {
     const auto& splitter = Find<QSplitter>(window, name);
     return {.Sizes = splitter.sizes(),
@@ -185,7 +151,7 @@ TEST_F(WindowMemoryTest, ValuesThatAreNoneLeaveTheDesign) {
 
 TEST_F(WindowMemoryTest, SplittersThatAreCutOffLeaveTheDesign) {
   Remember(*NewWindow());
-  const QByteArray panes = Remembered(kPanes);
+  const QByteArray panes = Remembered(kPanes).toByteArray();
   ASSERT_GT(panes.size(), 8);
   for (qsizetype size = 0; size < panes.size(); ++size) {
     ExpectTheDesign({{kPanes, panes.left(size)}}, "the first " + std::to_string(size) + " bytes");
@@ -210,7 +176,7 @@ TEST_F(WindowMemoryTest, AnUnreadableFileLeavesTheDesign) {
 
 TEST_F(WindowMemoryTest, AGeometryThatIsCutOffLeavesAWindowThatCanBeUsed) {
   Remember(*NewWindow());
-  const QByteArray geometry = Remembered(kGeometry);
+  const QByteArray geometry = Remembered(kGeometry).toByteArray();
   ASSERT_GT(geometry.size(), 20);
   for (qsizetype size = 0; size < geometry.size(); ++size) {
     SetRemembered(kGeometry, geometry.left(size));

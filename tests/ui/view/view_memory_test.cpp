@@ -4,7 +4,6 @@
 #include <QDockWidget>
 #include <QFile>
 #include <QScreen>
-#include <QSettings>
 #include <QTabBar>
 #include <QTest>
 
@@ -12,8 +11,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "support/window_test.h"
-#include "ui/shell/window_memory.h"
+#include "ui/shell/remembered_window_test.h"
 
 namespace tavrel::test {
 namespace {
@@ -22,38 +20,8 @@ constexpr const char* kPanelsKey = "Main/panels";
 constexpr std::array<const char*, 3> kDockNames = {"PreviewPanelDock", "CheckPanelDock", "FindAllPanelDock"};
 constexpr std::array<const char*, 3> kDockItems = {"ViewPreview", "ViewCheck", "ViewFindAll"};
 
-class ViewMemoryTest : public WindowTest {
+class ViewMemoryTest : public RememberedWindowTest {
  protected:
-  QString MemoryFile() const { return QString::fromStdString((Folder.Path() / "windows.ini").string()); }
-
-  /// A main window as it comes up with what is remembered.
-  std::unique_ptr<Main> NewWindow() {
-    auto window = std::make_unique<Main>(Application);
-    window->Form_Load();
-    {
-      const QSettings memory(MemoryFile(), QSettings::IniFormat);
-      RestoreWindow(*window, memory);
-    }
-    window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
-    window->ShowControls();
-    Settle();
-    return window;
-  }
-
-  void Remember(const Main& window) const {
-    QSettings memory(MemoryFile(), QSettings::IniFormat);
-    RememberWindow(window, memory);
-  }
-
-  QVariant Remembered(const QString& key) const {
-    return QSettings(MemoryFile(), QSettings::IniFormat).value(key);
-  }
-
-  void SetRemembered(const QString& key, const QVariant& value) const {
-    QSettings(MemoryFile(), QSettings::IniFormat).setValue(key, value);
-  }
-
   static QDockWidget& Dock(const Main& window, int number) {
     return Find<QDockWidget>(window, kDockNames.at(static_cast<std::size_t>(number)));
   }
