@@ -104,6 +104,18 @@ void History::Add(Step step) {
   while (bytes_ > kMostBytes && steps_.size() > 1) ForgetOldest();
 }
 
+const Step& History::AddUndone(Step step) {
+  ForgetUndone();
+  // The first step leads back to the document as it was opened.
+  if (done_ == 0)
+    for (const Change& change : head_) PutBefore(change, step.Pages);
+  step.Bytes = BytesOf(step);
+  bytes_ += step.Bytes;
+  steps_.push_back(std::move(step));
+  while (bytes_ > kMostBytes && done_ > 0) ForgetOldest();
+  return steps_.back();
+}
+
 void History::Amend(const Change& change) {
   if (done_ == 0) PutBehind(change, head_);
   if (steps_.empty()) return;

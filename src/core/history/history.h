@@ -63,6 +63,9 @@ class History {
   /// together keep more than kMostBytes, but never the newest.
   void Add(Step step);
 
+  /// Takes in a step that Redo would make next, in place of those taken back.
+  const Step& AddUndone(Step step);
+
   /// Takes in a change that is no step, as when a page that nobody has touched is stored in another order. It
   /// goes with the last step, or else with the next one.
   void Amend(const Change& change);

@@ -36,12 +36,18 @@ void StepRecorder::Begin(const Global& global, Shown shown) {
   before_ = std::move(shown);
   name_.clear();
   is_saved_ = false;
+  taken_back_.reset();
+}
+
+void StepRecorder::TakenBack(std::string with_redo) {
+  if (!taken_back_) taken_back_ = std::move(with_redo);
 }
 
 void StepRecorder::End(const Global& global, const Shown& shown) {
   if (!before_) return;
   const Shown before = std::move(*before_);
   before_.reset();
+  const Step* last = history_.NextUndo();
   Step changed = Difference(document_, global);
   if (IsOnlyRewritten(before, changed, shown.Showing)) {
     history_.Amend(changed.Pages.front());
@@ -49,6 +55,9 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
     if (AddTyped(before, global, shown.Showing)) changed = Difference(document_, global);
     AddCommand(std::move(changed), before.At, shown.At);
   }
+  const bool has_looked_only = history_.NextUndo() == last && history_.NextRedo() == nullptr;
+  if (has_looked_only && taken_back_ && !(global.Page(before.At.Page) == *taken_back_))
+    AddTakenBack(global, before.At, *taken_back_);
   if (is_saved_) history_.MarkSaved();
 }
 
@@ -110,18 +119,18 @@ const Step* StepRecorder::Undo(Global& global, const std::optional<std::string>&
     if (steps == 0 && !has_gone_back) AddStored(before, global.Page(before.At.Page) = before.Typed, 0);
   }
   if (!has_gone_back && with_redo && *with_redo != before.Typed)
-    undone = &AddTakenBack(global, before, *with_redo);
+    undone = &AddTakenBack(global, before.At, *with_redo);
   return history_.NextUndo() == nullptr ? undone : &history_.Undo(global);
 }
 
 /// Keeps typing that a field has taken back, as a step that is taken back.
-const Step& StepRecorder::AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo) {
-  history_.Add({.Name = EditName(shown.At.Page),
-                .Pages = {{shown.At.Page, global.Page(shown.At.Page), with_redo}},
-                .MusicLinks = {},
-                .Before = shown.At,
-                .After = shown.At});
-  return history_.Undo(global);
+const Step& StepRecorder::AddTakenBack(const Global& global, const Place& place,
+                                       const std::string& with_redo) {
+  return history_.AddUndone({.Name = EditName(place.Page),
+                             .Pages = {{place.Page, global.Page(place.Page), with_redo}},
+                             .MusicLinks = {},
+                             .Before = place,
+                             .After = place});
 }
 
 const Step* StepRecorder::Redo(Global& global) {

@@ -39,6 +39,11 @@ class StepRecorder {
   /// changes.
   void Name(std::string name) { name_ = std::move(name); }
 
+  /// The running command is about to replace the shown page in the fields, whose own redo would have made
+  /// this of it. It is kept as a step that is taken back, unless that would cost another step that can be
+  /// made again.
+  void TakenBack(std::string with_redo);
+
   /// Take back and make again a step, as commands. Null if there is none. Typing that is not stored is taken
   /// back first, as a step; it leaves nothing to be made again. `with_redo` is the page as it would be if the
   /// fields' own redo had made all typing again, which they cannot once a step has shown a page.
@@ -56,7 +61,7 @@ class StepRecorder {
   bool IsOnlyRewritten(const Shown& editor, const Step& changed, std::size_t showing) const;
   bool AddTyped(const Shown& editor, const Global& global, std::size_t showing);
   bool AddStored(const Shown& editor, const Record& stored, std::size_t showing);
-  const Step& AddTakenBack(Global& global, const Shown& shown, const std::string& with_redo);
+  const Step& AddTakenBack(const Global& global, const Place& place, const std::string& with_redo);
   void AddCommand(Step step, const Place& before, const Place& after);
   std::size_t StepsSinceTyped(const Shown& shown) const;
 
@@ -65,6 +70,7 @@ class StepRecorder {
   std::optional<Shown> before_;  ///< the editor then; none while no command runs that can leave a step
   std::string name_;
   bool is_saved_ = false;
+  std::optional<std::string> taken_back_;
 };
 
 }  // namespace tavrel

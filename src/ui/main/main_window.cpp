@@ -113,6 +113,7 @@ void Main::LoadDoc() {
 }
 
 void Main::LoadPage(int page) {
+  KeepTakenBack();
   const PageFields fields = ReadPage(app_.State.Page(page));
   page_->ShowFields(fields);
   grids_->ShowLinks(fields);
@@ -126,6 +127,12 @@ void Main::LoadPage(int page) {
   loaded_record_ = app_.State.Page(page);
   shown_record_ = first_record_;
   ++showing_;
+}
+
+/// The fields are about to forget what they have taken back.
+void Main::KeepTakenBack() {
+  if (FieldWithRedo() == nullptr) return;
+  page_->WithRedo([this] { app_.Steps.TakenBack(RecordOfFields()); });
 }
 
 void Main::SavePage() {

@@ -101,6 +101,7 @@ class Main : public QMainWindow, public Editor {
   void MoveFocusToBody();
   void NameSeparators();
   /// The fields and the links grid, without the link that is being typed.
+  void KeepTakenBack();
   PageFields StoredFields() const;
   /// The record that the fields give with it.
   std::string RecordOfFields() const;

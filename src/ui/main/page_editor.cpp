@@ -1,5 +1,6 @@
 #include "ui/main/page_editor.h"
 
+#include <QApplication>
 #include <QStringList>
 
 #include <algorithm>
@@ -13,12 +14,21 @@
 
 namespace tavrel {
 
-PageEditor::PageEditor(App& app, Ui::Main& ui) : app_(app), ui_(ui) {
+PageEditor::PageEditor(App& app, Ui::Main& ui) : app_(app), ui_(ui), last_field_(ui.Text1) {
   for (LineField* field : {ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6})
     field->SetCodePage(app_.CodePageInUse());
   ui_.Text1->SetCodePage(app_.CodePageInUse());
   ui_.Combo1->SetCodePage(app_.CodePageInUse());
   ui_.Combo2->SetCodePage(app_.CodePageInUse());
+  FollowFocus();
+}
+
+void PageEditor::FollowFocus() {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* old, QWidget* now) {
+    for (const QWidget* control : {old, now}) {
+      if (QWidget* field = FieldAmong(control)) last_field_ = field;
+    }
+  });
 }
 
 void PageEditor::ShowFields(const PageFields& fields) {
@@ -60,9 +70,8 @@ void PageEditor::RefreshMusicTargets() {
 }
 
 Place PageEditor::CaretPlace(const QWidget* control_with_focus) const {
-  const auto fields = Fields();
-  const auto found = std::find(fields.begin(), fields.end(), control_with_focus);
-  QWidget* field_with_caret = found == fields.end() ? ui_.Text1 : *found;
+  QWidget* field_with_focus = FieldAmong(control_with_focus);
+  QWidget* field_with_caret = field_with_focus == nullptr ? last_field_ : field_with_focus;
   const TextField& field = *FieldOf(field_with_caret);
   return {app_.State.CurrentPage, app_.State.CurrentLink, field_with_caret->objectName().toStdString(),
           field.Anchor(),         field.Caret(),          ui_.MSFlexGrid1->Row()};
@@ -165,6 +174,12 @@ QWidget& PageEditor::FieldAt(const Place& place) const {
 
 std::array<QWidget*, 7> PageEditor::Fields() const {
   return {ui_.Text1, ui_.Text3, ui_.Text4, ui_.Text5, ui_.Text6, ui_.Combo1, ui_.Combo2};
+}
+
+QWidget* PageEditor::FieldAmong(const QWidget* control) const {
+  const auto fields = Fields();
+  const auto found = std::find(fields.begin(), fields.end(), control);
+  return found == fields.end() ? nullptr : *found;
 }
 
 PageFields PageEditor::TypedFields() const {

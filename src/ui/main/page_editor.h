@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QObject>
+
 #include <array>
 #include <functional>
 
@@ -17,7 +19,9 @@ class Main;
 namespace tavrel {
 
 /// The fields of the main window that hold the page in the editor.
-class PageEditor {
+class PageEditor : public QObject {
+  Q_OBJECT
+
  public:
   PageEditor(App& app, Ui::Main& ui);
 
@@ -32,7 +36,7 @@ class PageEditor {
   /// Renews the music links in both lists; the pages in the first stay as they were listed.
   void RefreshMusicTargets();
 
-  /// Where the caret is: in the field that has the focus, or else in the body.
+  /// Where the caret is: in the field that has the focus, or else in the one that had it last.
   Place CaretPlace(const QWidget* control_with_focus) const;
   /// Gives the focus to the field of a place.
   void FocusOn(const Place& place);
@@ -56,12 +60,16 @@ class PageEditor {
   Link TypedLink() const;
 
  private:
+  void FollowFocus();
   std::array<QWidget*, 7> Fields() const;
+  /// Null if a control is none of the fields.
+  QWidget* FieldAmong(const QWidget* control) const;
   QWidget& FieldAt(const Place& place) const;
   QWidget& ControlOf(Field field) const;
 
   App& app_;
   Ui::Main& ui_;
+  QWidget* last_field_;
 };
 
 }  // namespace tavrel

@@ -22,7 +22,24 @@ void LiteralHistory::AddEdit(const Typing& before, const std::string& stored, st
 }
 
 void LiteralHistory::AddCommand(const std::string& name, const Typing& before, const DocumentCopy& after,
-                                const Typing& shown) {
+                                const Typing& shown, const std::optional<std::string>& with_redo) {
+  const std::size_t done = done_;
+  const bool has_redo = steps_.size() > done_;
+  AddSteps(name, before, after, shown);
+  if (done_ == done && !has_redo && with_redo && before.Showing != shown.Showing)
+    AddUndone(before, *with_redo);
+}
+
+void LiteralHistory::AddUndone(const Typing& before, const std::string& with_redo) {
+  DocumentCopy redone = now_;
+  redone.SetPage(before.Page, with_redo);
+  if (redone == now_) return;
+  steps_.push_back({"Edit page " + std::to_string(before.Page), before.Page, before.Page, 0});
+  states_.push_back(std::move(redone));
+}
+
+void LiteralHistory::AddSteps(const std::string& name, const Typing& before, const DocumentCopy& after,
+                              const Typing& shown) {
   DocumentCopy rewritten = now_;
   if (before.Rewritten) rewritten.SetPage(before.Page, *before.Rewritten);
   if (after == rewritten && !(after == now_)) return Rewrite(before);

@@ -26,8 +26,10 @@ class LiteralHistory {
   /// A command has run. What had been typed before it and is no longer in the fields, or what it has stored
   /// of the page that is still in them, is a step of its own. If all that it did was to rewrite a page on
   /// which nothing was typed, that goes with the last step, or else with the next one.
+  /// `with_redo` is the page as the field's own redo would have made it. If the command has made no step but
+  /// shown a page anew, that becomes one that is taken back, where no other can be made again.
   void AddCommand(const std::string& name, const Typing& before, const DocumentCopy& after,
-                  const Typing& shown);
+                  const Typing& shown, const std::optional<std::string>& with_redo = {});
   void MarkSaved() { saved_ = done_; }
 
   /// The names of the steps taken, and the pages to show; nothing if there is none to take.
@@ -55,6 +57,9 @@ class LiteralHistory {
   void Add(Step step, DocumentCopy after);
   void AddEdit(const Typing& before, const std::string& stored, std::size_t showing);
   bool IsTyped(const Typing& shown) const { return Document().Page(shown.Page) != shown.Typed; }
+  void AddSteps(const std::string& name, const Typing& before, const DocumentCopy& after,
+                const Typing& shown);
+  void AddUndone(const Typing& before, const std::string& with_redo);
   void Rewrite(const Typing& before);
   std::size_t StoringsSince(const Typing& shown) const;
   void TakeBack();

@@ -25,10 +25,11 @@ const std::vector<std::pair<std::string, std::string>> kWordings = {
 template <typename Command>
 void RandomEditor::Run(const std::string& name, const Command& command) {
   const Typing before = Now();
+  const std::optional<std::string> with_redo = editor_.RedoRecord();
   done_ += (name.empty() ? "unnamed" : name) + "; ";
   editor_.Run(name, command);
   literal_.AddCommand(name.empty() ? "Edit page " + std::to_string(before.Page) : name, before,
-                      DocumentCopy(editor_.State), Now());
+                      DocumentCopy(editor_.State), Now(), with_redo);
 }
 
 template <typename Command>

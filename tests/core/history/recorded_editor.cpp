@@ -24,6 +24,7 @@ void RecordedEditor::SavePage() {
 }
 
 void RecordedEditor::LoadPage(int page) {
+  if (FieldRedo) Steps.TakenBack(*RedoRecord());
   State.CurrentPage = static_cast<std::int16_t>(page);
   Field = State.Page(page);
   FieldRedo.reset();
@@ -83,6 +84,10 @@ std::optional<std::string> RecordedEditor::Show(const Step* step, const Place& p
 std::string RecordedEditor::TypedAs(const std::string& text) const {
   const std::string typed = Stored(text);
   return typed == shown_ ? State.Page(State.CurrentPage).Bytes() : typed;
+}
+
+std::optional<std::string> RecordedEditor::RedoRecord() const {
+  return FieldRedo ? std::optional(Stored(*FieldRedo)) : std::nullopt;
 }
 
 std::string RecordedEditor::TypedWithRedo() const {

@@ -45,6 +45,7 @@ class RecordedEditor {
 
   Shown Now() const;
   std::string TypedWithRedo() const;
+  std::optional<std::string> RedoRecord() const;
   bool IsTyped() const { return !(State.Page(State.CurrentPage) == Now().Typed); }
 
  private:

@@ -114,5 +114,34 @@ TEST_F(StepRecorderTest, TakesBackToTheVeryFirstBytesWhateverTheFieldCouldMakeAg
   EXPECT_EQ(Page(4), "a");
 }
 
+TEST_F(StepRecorderTest, KeepsTypingThatTheFieldHasTakenBackOverALookAtAnotherPage) {
+  Editor.FieldRedo = "one more";
+  Editor.MoveTo(2);
+  ExpectPages("one", "two", "three");
+  ExpectNoUndo();
+  ExpectRedo("Edit page 1");
+  ExpectPages("one more", "two", "three");
+  ExpectUndo("Edit page 1");
+  ExpectPages("one", "two", "three");
+}
+
+TEST_F(StepRecorderTest, KeepsTheStepsThatCanBeMadeAgainRatherThanWhatTheFieldHasTakenBack) {
+  Editor.Run("Paint page 2", [this] { Editor.State.Page(2) = "red"; });
+  ExpectUndo("Paint page 2");
+  Editor.FieldRedo = "one more";
+  Editor.MoveTo(3);
+  ExpectRedo("Paint page 2");
+  ExpectNoRedo();
+}
+
+TEST_F(StepRecorderTest, ForgetsWhatTheFieldHasTakenBackAtTheNextStep) {
+  Editor.FieldRedo = "one more";
+  Editor.Clear();
+  ExpectNoRedo();
+  ExpectUndo("Clear page 1");
+  ExpectRedo("Clear page 1");
+  ExpectNoRedo();
+}
+
 }  // namespace
 }  // namespace tavrel::test
