@@ -11,6 +11,7 @@
 #include "core/editing/search.h"
 #include "edited_document.h"
 #include "rows.h"
+#include "worst.h"
 
 namespace tavrel::bench {
 namespace {
@@ -21,21 +22,6 @@ constexpr std::string_view kWanted = "cat";
 const CodePage& Letters() {
   return CodePage::Windows1252();
 }
-
-/// The case that is nearest to the limit, with its name as the note.
-class Worst {
- public:
-  void Add(Row row, const std::string& name) {
-    if (row.Ratio < row_.Ratio) return;
-    row_ = std::move(row);
-    row_.Note = name;
-  }
-
-  const Row& Get() const { return row_; }
-
- private:
-  Row row_;
-};
 
 Edit Deleting(int last) {
   return [last](Global& global) { DeletePages(global, {1, last}, Letters()); };

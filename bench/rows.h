@@ -21,6 +21,18 @@ std::vector<Row> HistoryRows();
 /// Importing notes and copying them.
 std::vector<Row> IpodRows();
 
+/// What the preview takes to follow the typing.
+std::vector<Row> PreviewRows();
+
+/// Checking the full-size document, at once and while it is being written.
+std::vector<Row> CheckRows();
+
+/// Finding in all pages of the full-size document.
+std::vector<Row> FindAllRows();
+
+/// The companion for the command line, as a process.
+std::vector<Row> NotesRows();
+
 /// Starting the program, and its memory with the full-size document open.
 std::vector<Row> ProcessRows();
 

@@ -62,4 +62,14 @@ Report RunAndWait(std::vector<std::string> command) {
   return report;
 }
 
+double RunToItsEnd(std::vector<std::string> command) {
+  int status = 0;
+  const double seconds = Seconds([&] {
+    const pid_t process = Spawn(command, STDOUT_FILENO);
+    while (::waitpid(process, &status, 0) < 0) Check(errno == EINTR ? 0 : errno, "waitpid");
+  });
+  if (status != 0) throw std::runtime_error(command.front() + " did not succeed");
+  return seconds;
+}
+
 }  // namespace tavrel::bench

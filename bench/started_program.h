@@ -14,4 +14,7 @@ struct Report {
 /// Runs a program that ends with ReportAndEnd. Throws if it ends in another way.
 Report RunAndWait(std::vector<std::string> command);
 
+/// The seconds that a program takes as a whole process. Throws if it does not succeed.
+double RunToItsEnd(std::vector<std::string> command);
+
 }  // namespace tavrel::bench

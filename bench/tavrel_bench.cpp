@@ -15,8 +15,9 @@ int main(int argc, char* argv[]) {
   ::setenv("QT_LOGGING_RULES", "*.warning=false", 1);
   QApplication application(argc, argv);
   try {
-    std::vector<Row> rows = FileRows();
-    for (const auto& more : {WindowRows, EditingRows, HistoryRows, IpodRows, ProcessRows}) {
+    std::vector<Row> rows;
+    for (const auto& more : {NotesRows, FileRows, WindowRows, EditingRows, HistoryRows, PreviewRows,
+                             CheckRows, FindAllRows, IpodRows, ProcessRows}) {
       for (Row& row : more()) rows.push_back(std::move(row));
     }
     PrintTable(rows);

@@ -19,7 +19,8 @@ void Monkey::TypeIntoField() {
   const QString text = is_target ? AnyTarget(dice_) : AnyTyped(dice_);
   Note("type into " + name.toStdString() + ": " + text.toStdString());
   by_ = By::Typing;
-  auto& field = Find<QWidget>(stage_->Window(), name);
+  // Dialogs have fields of the same names.
+  auto& field = Find<QWidget>(*stage_->Window().centralWidget(), name);
   QWidget* place = &field;
   if (name == "Text1") place = screen_->Body.viewport();
   if (name == "Combo1") place = &screen_->LinkTarget.Field();
@@ -128,7 +129,7 @@ void Monkey::ClickButton() {
   Note("click " + name.toStdString());
   by_ = By::Click;
   moves_focus_ = number == 19 && focus_ != "Command4";
-  QTest::mouseClick(&Find<QWidget>(stage_->Window(), name), Qt::LeftButton);
+  QTest::mouseClick(&Find<QWidget>(*stage_->Window().centralWidget(), name), Qt::LeftButton);
 }
 
 void Monkey::OpenContextMenu() {

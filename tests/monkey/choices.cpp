@@ -59,6 +59,10 @@ void Monkey::ActInEditor() {
     Replay();
     return;
   }
+  if (dice_.OneIn(10)) {
+    ActInPanels();
+    return;
+  }
   const int kind = dice_.Below(100);
   if (kind < 24) {
     TypeIntoField();
@@ -96,6 +100,8 @@ void Monkey::ActOnCover() {
     ChooseItem(kEditItems);
   } else if (dice_.OneIn(14)) {
     Fidget();
+  } else if (dice_.OneIn(10)) {
+    ActInPanels();
   } else {
     ChooseItem(kCoverItems);
   }
@@ -126,7 +132,7 @@ void Monkey::ChooseByMouse(QAction& item) {
   QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(menus.front()->menuAction()).center());
   if (menus.front()->objectName() == "EditMenu" && menus.front()->isVisible()) CheckCaptions();
   // A menu takes the focus for a moment, at which a field forgets its selection.
-  model_->MovePlace(screen_->PlaceIn(focus_));
+  model_->MovePlace(screen_->PlaceIn(caret_field_));
   for (std::size_t i = 1; i < menus.size() && menus[i - 1]->isVisible(); ++i) {
     QTest::mouseClick(menus[i - 1], Qt::LeftButton, {},
                       menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());

@@ -82,6 +82,7 @@ long TemporaryFiles(const Stage& stage) {
 Cost Measure(Monkey& monkey) {
   // The same state each time: no document is open. What the windows keep of the use before counts.
   monkey.CloseDocument();
+  monkey.ClosePanels();
   // A window keeps a picture of itself, as large as somebody has made it last.
   Main& window = monkey.Theatre().Window();
   window.setUpdatesEnabled(true);

@@ -47,15 +47,20 @@ class Model {
   void ClickPage(int row);
   void ClickLink(int row);
   void InsertPlan(const Record& record);
+  /// A panel leads to a field of a page, of its links to that one; 0: none.
+  void LeadTo(int page, std::string field, int link);
+  /// The editor goes along with the preview.
+  void GoAlong(int page);
 
   /// Before anything that may be a command, and after it, with the place of the caret: what has changed
   /// meanwhile can be taken back.
-  void BeginCommand(const LiteralPlace& place);
+  /// `with_redo` as for Undo.
+  void BeginCommand(const LiteralPlace& place, const std::map<std::string, std::string>& with_redo);
   void EndCommand(const LiteralPlace& place);
   /// The command began at another place than it seemed.
   void MovePlace(const LiteralPlace& place);
   /// The same if a click took the focus away from where it was. Has to be told before `Focus` is forgotten.
-  void LeavePlace(LiteralPlace place_in_body);
+  void LeavePlace(LiteralPlace place_left);
 
   /// Takes back and makes again a step of the document. Nothing if there is none.
   /// `with_redo`: what the fields would hold whose own redo had made all typing again.
@@ -106,6 +111,7 @@ class Model {
   }
   LiteralDocument Now() const { return {editor_.Pages, music_}; }
   void AddStep(LiteralStep step, LiteralDocument after);
+  void AddUndone(const std::string& redone);
   LiteralStep TakeBack();
   bool IsRewritten() const;
   bool IsOnlyRewritten() const;
@@ -121,6 +127,7 @@ class Model {
   void UpdateGrid2();
   void SwapLinks(int row, int other);
   void StoreLinks(int row);
+  int RowOfLink(int link) const;
   template <typename Command>
   void RunOnPage(Command command);
 
@@ -161,9 +168,11 @@ class Model {
   int showing_ = 0;              ///< counts the pages shown
   LiteralHistory steps_;
   std::shared_ptr<const LiteralDocument> kept_ = std::make_shared<LiteralDocument>();  ///< as it was last
-  LiteralPlace place_;      ///< when the command began
-  std::string typed_;       ///< when the command began
-  std::string rewritten_;   ///< what storing would have made of the page then
+  LiteralPlace place_;     ///< when the command began
+  std::string typed_;      ///< when the command began
+  std::string rewritten_;  ///< what storing would have made of the page then
+  /// What the fields' own redo would have made of the page then.
+  std::optional<std::string> redone_;
   int showing_before_ = 0;  ///< when the command began
   std::string step_name_;   ///< of the command; empty: it is called after what it changes
   bool is_name_known_ = true;

@@ -31,8 +31,9 @@ LiteralDocument With(LiteralDocument document, std::size_t page, const std::stri
 
 }  // namespace
 
-void Model::BeginCommand(const LiteralPlace& place) {
+void Model::BeginCommand(const LiteralPlace& place, const std::map<std::string, std::string>& with_redo) {
   MovePlace(place);
+  redone_ = with_redo.empty() ? std::nullopt : std::optional(TypedPageWith(with_redo));
   typed_ = TypedPage();
   rewritten_ = RecordOfFields();
   showing_before_ = showing_;
@@ -49,10 +50,10 @@ void Model::MovePlace(const LiteralPlace& place) {
   place_.Link = current_link_;
 }
 
-void Model::LeavePlace(LiteralPlace place_in_body) {
+void Model::LeavePlace(LiteralPlace place_left) {
   // A link field writes its row, and the grid forgets where the keys have gone.
-  if (Focus == "Text5" || Focus == "Combo1" || Focus == "MSFlexGrid1") place_in_body.Row = selected_link_;
-  MovePlace(place_in_body);
+  if (Focus == "Text5" || Focus == "Combo1" || Focus == "MSFlexGrid1") place_left.Row = selected_link_;
+  MovePlace(place_left);
 }
 
 void Model::EndCommand(const LiteralPlace& place) {
@@ -65,11 +66,14 @@ void Model::EndCommand(const LiteralPlace& place) {
     return;
   }
   if (is_history_) return;
+  const std::size_t steps = steps_.Done.size();
   if (IsOnlyRewritten()) {
     Amend();
   } else {
     AddSteps(place);
   }
+  // A look at another page: the fields have forgotten what they had taken back.
+  if (steps_.Done.size() == steps && showing_ != showing_before_ && redone_) AddUndone(*redone_);
   if (is_saved_) steps_.MarkSaved();
 }
 
@@ -117,6 +121,17 @@ void Model::AddStep(LiteralStep step, LiteralDocument after) {
   kept_ = std::make_shared<LiteralDocument>(std::move(after));
   step.After = kept_;
   steps_.Add(std::move(step));
+}
+
+/// Other steps that can be made again are worth more.
+void Model::AddUndone(const std::string& redone) {
+  const auto page = static_cast<std::size_t>(place_.Page);
+  if (!steps_.Undone.empty() || kept_->Pages.at(page) == redone) return;
+  steps_.Undone.push_back({.Name = EditName(place_.Page),
+                           .Before = steps_.Done.empty() ? opened_ : kept_,
+                           .After = std::make_shared<LiteralDocument>(With(*kept_, page, redone)),
+                           .From = place_,
+                           .To = place_});
 }
 
 /// Rewriting a page is no step. It goes with the last step, or else with the next one, and those that were

@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QTextBlock>
+#include <QTimer>
 
+#include <algorithm>
 #include <cstdio>
 #include <utility>
 
+#include "monkey/panel_watch.h"
 #include "support/user.h"
 
 namespace tavrel::test {
@@ -72,7 +75,10 @@ void Monkey::Restart(Ending ending) {
   stage_->Start();
   stage_->Window().resize(900, 600);
   player_.Watch(stage_->Window());
+  new PanelWatch(stage_->Window(), stage_->Seen);
+  Find<QTimer>(stage_->Window(), "LookTimer").stop();
   screen_ = std::make_unique<Screen>(stage_->Window());
+  caret_field_ = "Text1";
   model_ = std::make_unique<Model>(stage_->ProgramFolder);
   stage_->Seen.Clear();
   ++counts_.Starts;
@@ -92,6 +98,7 @@ void Monkey::Act() {
     Kill();
     return;
   }
+  if (dice_.OneIn(12)) LetPanelsLook();
   QWidget* planner = OpenPlanner();
   if (planner != nullptr && dice_.OneIn(4)) {
     ActInPlanner();
@@ -118,9 +125,18 @@ void Monkey::CloseDocument() {
   }
 }
 
+void Monkey::NoteCaretField() {
+  const std::vector<std::string>& fields = Screen::FieldNames();
+  if (std::find(fields.begin(), fields.end(), screen_->Focus()) != fields.end())
+    caret_field_ = screen_->Focus();
+}
+
 void Monkey::BeginAct() {
   // Painting takes more time than all the rest.
   stage_->Window().setUpdatesEnabled(counts_.Actions % 8 == 0);
+  LetSearchEnd();
+  is_fresh_ = false;
+  is_left_for_panel_ = false;
   stage_->Seen.Clear();
   by_ = By::Other;
   moves_focus_ = false;
@@ -128,13 +144,16 @@ void Monkey::BeginAct() {
   popups_ = player_.Popups;
   faulty_ = false;
   focus_ = screen_->Focus();
-  place_in_body_ = screen_->PlaceIn("Text1");
+  NoteCaretField();
+  place_left_ = screen_->PlaceIn(caret_field_);
+  // A line that is left forgets its selection.
+  if (caret_field_ != "Text1") place_left_.Anchor = place_left_.Caret;
   field_to_undo_ = screen_->FieldToUndo();
   field_to_redo_ = screen_->FieldToRedo();
   has_unheld_words_ = !screen_->FieldWithUnheldWords().empty();
   for (const std::string& field : Screen::FieldNames()) texts_[field] = model_->Typed(field);
   by_step_key_ = false;
-  model_->BeginCommand(screen_->PlaceIn(focus_));
+  model_->BeginCommand(screen_->PlaceIn(caret_field_), with_redo_);
   model_->Focus = focus_;
   model_->LinkRow = screen_->Links.Row();
   body_ = WholeText(screen_->Body);
@@ -167,10 +186,12 @@ void Monkey::Follow() {
   for (const Event& event : seen.Events) {
     if (event.What == Event::Kind::GridClick && event.Window == "Main") click = &event;
   }
-  if (command != nullptr || click != nullptr) {
+  if (seen.First(Event::Kind::Led) != nullptr) {
+    FollowPanels();
+  } else if (command != nullptr || click != nullptr) {
     if (moves_focus_) {
       model_->LeaveField(focus_);
-      model_->LeavePlace(place_in_body_);
+      model_->LeavePlace(place_left_);
       model_->Focus = "";
     }
     if (click != nullptr) {
@@ -204,7 +225,8 @@ void Monkey::Follow() {
   }
   model_->Focus = screen_->Focus();
   const std::size_t steps = model_->Steps().Done.size();
-  model_->EndCommand(screen_->PlaceIn(screen_->Focus()));
+  NoteCaretField();
+  model_->EndCommand(screen_->PlaceIn(caret_field_));
   const std::vector<LiteralStep>& done = model_->Steps().Done;
   FollowRedo();
   const bool has_step = done.size() > steps;

@@ -14,6 +14,7 @@
 #include "monkey/screen.h"
 #include "monkey/stage.h"
 
+class QDockWidget;
 class QWidget;
 
 namespace tavrel::test {
@@ -31,6 +32,7 @@ struct Counts {
   int Undone = 0;     ///< steps taken back
   int Redone = 0;     ///< steps made again
   int Replays = 0;    ///< histories gone through from end to end
+  int Led = 0;        ///< to pages, by the panels of the View menu
   int Recovered = 0;  ///< documents that were brought back after a kill
 };
 
@@ -47,6 +49,8 @@ class Monkey {
 
   /// Closes the open document.
   void CloseDocument();
+  /// Closes the panels of the View menu at their places.
+  void ClosePanels();
 
   /// How it came to what has just happened.
   void TellHistory() const;
@@ -85,6 +89,21 @@ class Monkey {
   void StepThroughHistory(bool back);
   void Replay();
 
+  void ActInPanels();
+  void LetPanelsLook();
+  void LetSearchEnd();
+  void LeaveForPanel(const LiteralPlace& place);
+  void OpenOrClosePanel();
+  bool ComeToPanel(QDockWidget& dock);
+  void MovePanel(QDockWidget& dock);
+  void UsePreview();
+  void UseFindAll();
+  void UndoInFindWhat(LineField& field);
+  void UseList(const QString& name);
+  void PressKeysIn(QWidget& control, const std::vector<Qt::Key>& keys);
+  void FollowPanels();
+
+  void NoteCaretField();
   void BeginAct();
   void EndAct();
   void Follow();
@@ -121,8 +140,9 @@ class Monkey {
   std::string focus_;         ///< before the action
   bool moves_focus_ = false;  ///< whether a click takes the focus away before a command begins
   bool enter_ = false;
-  LiteralPlace place_in_body_;  ///< of the caret before the action
-  std::string field_to_undo_;   ///< whose own undo would have been next before the action
+  std::string caret_field_;    ///< the one that had the focus last
+  LiteralPlace place_left_;    ///< of the caret before the action, if its field is left by a click
+  std::string field_to_undo_;  ///< whose own undo would have been next before the action
   std::string field_to_redo_;
   std::map<std::string, std::string> texts_;  ///< of all fields, before the action
   bool has_unheld_words_ = false;
@@ -137,6 +157,8 @@ class Monkey {
   int selection_start_ = 0;
   int selection_end_ = 0;
   QString clipboard_;
+  bool is_fresh_ = false;           ///< the panels have looked right before the action
+  bool is_left_for_panel_ = false;  ///< the field that had the focus before the action
 };
 
 }  // namespace tavrel::test

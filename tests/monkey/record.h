@@ -24,13 +24,13 @@ void ExpectSame(const std::string& actual, const std::string& expected, const st
 
 /// Something that happened in one action, in the order in which it happened.
 struct Event {
-  enum class Kind { Shown, Pressed, Closed, Message, Command, GridClick, Failed, Ended };
+  enum class Kind { Shown, Pressed, Closed, Message, Command, GridClick, Led, Failed, Ended };
 
   Kind What;
   std::string Window = {};                         ///< the dialog or window
   std::string Control = {};                        ///< the button, command or grid; a message's text
   std::map<std::string, std::string> Values = {};  ///< what the dialog's controls held
-  int Number = 0;                                  ///< an answer, a row, whether a dialog was accepted
+  int Number = 0;  ///< an answer, a row, a page, whether a dialog was accepted
 };
 
 /// All of one action.

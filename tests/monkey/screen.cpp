@@ -17,7 +17,8 @@ Screen::Screen(Main& window)
       MusicText(Find<LineField>(window, "Text6")),
       MusicLink(Find<TargetList>(window, "Combo2")),
       Links(Find<Grid>(window, "MSFlexGrid1")),
-      Pages(Find<Grid>(window, "MSFlexGrid2")) {}
+      Pages(Find<Grid>(window, "MSFlexGrid2")),
+      FindWhat(Find<LineField>(window, "FindWhat")) {}
 
 PageFields Screen::Fields() const {
   PageFields fields;
@@ -73,19 +74,24 @@ LiteralPlace Screen::PlaceIn(const std::string& field) const {
   return place;
 }
 
+QString Screen::SelectedIn(const std::string& field) const {
+  const QLineEdit* line = Line(field);
+  return line == nullptr ? Body.SelectedText() : line->selectedText();
+}
+
 int Screen::LastCaret(const std::string& field) const {
   const QLineEdit* line = Line(field);
   return line == nullptr ? Body.document()->characterCount() - 1 : static_cast<int>(line->text().size());
 }
 
 bool Screen::HasUndo(const std::string& field) const {
-  const QLineEdit* line = Line(field);
+  const QLineEdit* line = field == "FindWhat" ? &FindWhat : Line(field);
   if (line != nullptr) return line->isUndoAvailable();
   return field == "Text1" && Body.document()->isUndoAvailable();
 }
 
 bool Screen::HasRedo(const std::string& field) const {
-  const QLineEdit* line = Line(field);
+  const QLineEdit* line = field == "FindWhat" ? &FindWhat : Line(field);
   if (line != nullptr) return line->isRedoAvailable();
   return field == "Text1" && Body.document()->isRedoAvailable();
 }

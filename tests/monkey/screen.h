@@ -28,6 +28,7 @@ class Screen {
   TargetList& MusicLink;
   Grid& Links;
   Grid& Pages;
+  LineField& FindWhat;
 
   /// Everything but the links.
   PageFields Fields() const;
@@ -41,6 +42,7 @@ class Screen {
 
   /// Where the caret is in a field; for any other control, in the body.
   LiteralPlace PlaceIn(const std::string& field) const;
+  QString SelectedIn(const std::string& field) const;
   /// How many places there are for the caret of that field.
   int LastCaret(const std::string& field) const;
 

@@ -60,11 +60,12 @@ int Walk(unsigned seed, int actions) {
   const Counts& done = monkey.Done();
   std::printf(
       "seed %u: %d actions in %.0f s; compared %d commands, %d typed texts, %d keys; resynchronised %d; "
-      "steps taken back %d, made again %d, %d histories gone through; dialogs %d, messages %d, published %d; "
+      "steps taken back %d, made again %d, %d histories gone through; led by panels %d times; dialogs %d, "
+      "messages %d, published %d; "
       "starts %d, of which after earned failures %d; kills %d, "
       "recovered %d; trail %08x\n",
       seed, done.Actions, seconds, done.Commands, done.Typings, done.Keys, done.Resynchronised, done.Undone,
-      done.Redone, done.Replays, monkey.Dialogs(), monkey.Messages(), done.Published, done.Starts,
+      done.Redone, done.Replays, done.Led, monkey.Dialogs(), monkey.Messages(), done.Published, done.Starts,
       done.Failures, done.Kills, done.Recovered, monkey.Trail());
   return 0;
 }

@@ -1,13 +1,15 @@
 #include "core/check/page_check.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "core/check/link_target.h"
+#include "core/check/lost_words.h"
 #include "core/document/page_parts.h"
+#include "core/document/spoiling_tags.h"
+#include "core/ipod/note_writer.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -19,28 +21,36 @@ using Kind = LinkTarget::Kind;
 
 constexpr char32_t kLastOfLatin1 = 0xFF;
 
-/// A page is split at these, wherever they stand.
-constexpr std::array<std::string_view, 14> kTags = {
-    "<title>", "</title>",   "<note>",      "</note>",  "<text>",    "</text>", "<link>",
-    "</link>", "<linktext>", "</linktext>", "<linkto>", "</linkto>", "<music>", "</music>"};
-
 std::string Words(std::string_view words) {
   return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
+}
+
+/// Nearly all are, and every code page has these characters in the same places.
+bool IsAscii(std::string_view text) {
+  // Without a branch, so that the compiler looks at many at once.
+  unsigned char all = 0;
+  for (const char c : text) all |= static_cast<unsigned char>(c);
+  return all < 0x80;
 }
 
 /// Looks at one page.
 class PageCheck {
  public:
-  PageCheck(const Global& global, int page, const CodePage& code_page)
+  PageCheck(const Global& global, int page, const PageParts& parts, const CodePage& code_page)
       : global_(global),
         page_(page),
         code_page_(code_page),
-        parts_(PartsOf(global.Page(page))),
-        brackets_(BracketsOf(parts_.Text)) {}
+        parts_(parts),
+        published_(parts.PublishedLinks()),
+        brackets_(BracketsOf(parts.Text)) {
+    report_.LeadsTo.reserve(parts.Links.size());
+  }
 
   PageReport Run() {
     CheckTitle();
+    CheckLostWords();
     CheckContent(Field::Title, 0, parts_.Title);
+    CheckTags(Field::Note, 0, parts_.Note);
     CheckContent(Field::Text, 0, parts_.Text);
     CheckBrackets();
     CheckLinks();
@@ -65,12 +75,23 @@ class PageCheck {
   }
 
   void CheckTitle() {
-    if (parts_.Title.empty())
-      Add(Field::Title, "The page has no title, so the Notes menu shows its file name.");
+    if (!parts_.Title.empty()) return;
+    Add(Field::Title, page_ == 1 ? "The page has no title, so the Notes menu shows a dash."
+                                 : "The page has no title, so the Notes menu shows its file name.");
+  }
+
+  void CheckLostWords() {
+    for (const LostWords& lost : FindLostWords(global_.Page(page_).Bytes())) {
+      const FieldPart& field = lost.Behind;
+      AddAt(field.Where, field.Link, field.Position, 0,
+            lost.Tag.empty() ? "Words that stand in no field are lost."
+                             : "What stands behind " + std::string(lost.Tag) + " is lost.");
+    }
   }
 
   /// What is wrong with any text, wherever it stands.
   void CheckContent(Field where, int link, std::string_view content) {
+    if (IsAscii(content) && content.find('<') == std::string_view::npos) return;
     const auto is_strange = [this](char c) { return code_page_.Character(c) > kLastOfLatin1; };
     const auto strange = std::find_if(content.begin(), content.end(), is_strange);
     if (strange != content.end()) {
@@ -79,12 +100,24 @@ class PageCheck {
             count == 1 ? "An iPod may not show one of the characters."
                        : "An iPod may not show " + std::to_string(count) + " of the characters.");
     }
+    CheckTags(where, link, content);
+  }
+
+  void CheckTags(Field where, int link, std::string_view content) {
     if (content.find('<') == std::string_view::npos) return;
-    for (const std::string_view tag : kTags) {
+    for (const std::string_view tag : SpoilingTags(where)) {
       const std::size_t position = content.find(tag);
       if (position != std::string_view::npos)
         AddAt(where, link, position, tag.size(), std::string(tag) + " cannot stand in a page.");
     }
+  }
+
+  /// Words of a link are published as they stand, into a tag of their own.
+  void CheckLinkWords(Field where, int link, std::string_view words) {
+    CheckContent(where, link, words);
+    const std::size_t bracket = words.find('<');
+    if (bracket != std::string_view::npos)
+      AddAt(where, link, bracket, 1, "An iPod takes the < for the beginning of a tag.");
   }
 
   void CheckBrackets();
@@ -93,20 +126,21 @@ class PageCheck {
   void CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads, bool is_published);
   void CheckMusic();
   bool IsUsed(std::size_t link) const {
-    return link < parts_.PublishedLinks() || (brackets_.AreLinks && link < brackets_.Links.size());
+    return link < published_ || (brackets_.AreLinks && link < brackets_.Links.size());
   }
 
   const Global& global_;
   int page_;
   const CodePage& code_page_;
-  PageParts parts_;
+  const PageParts& parts_;
+  std::size_t published_;
   Brackets brackets_;
   PageReport report_;
 };
 
 void PageCheck::CheckBrackets() {
   if (!brackets_.AreLinks) {
-    const std::size_t bracket = parts_.Text.find_first_of("<>");
+    const std::size_t bracket = FindBracket(parts_.Text, 0);
     if (bracket == std::string_view::npos) return;
     const bool has_both = parts_.Text[bracket] == '>' && !brackets_.Links.empty();
     AddAt(Field::Text, 0, bracket, 1,
@@ -140,21 +174,20 @@ void PageCheck::CheckInlineLink(std::size_t index) {
 }
 
 void PageCheck::CheckLinks() {
-  const std::size_t published = parts_.PublishedLinks();
   for (std::size_t link = 0; link < parts_.Links.size(); ++link) {
     const int row = static_cast<int>(link) + 1;
     const PageParts::Link& parts = parts_.Links[link];
-    CheckContent(Field::LinkText, row, parts.Text);
+    CheckLinkWords(Field::LinkText, row, parts.Text);
     if (!parts.Target.empty())
       CheckTarget(Field::LinkTarget, row, parts.Target, TargetOf(global_, parts.Target), IsUsed(link));
   }
-  if (published == parts_.Links.size()) return;
-  const std::size_t behind = parts_.Links.size() - published - 1;
-  const bool lacks_words = parts_.Links[published].Text.empty();
+  if (published_ == parts_.Links.size()) return;
+  const std::size_t behind = parts_.Links.size() - published_ - 1;
+  const bool lacks_words = parts_.Links[published_].Text.empty();
   const std::string followers = behind == 0   ? "is"
                                 : behind == 1 ? "and the link behind it are"
                                               : "and the " + std::to_string(behind) + " links behind it are";
-  AddAt(lacks_words ? Field::LinkText : Field::LinkTarget, static_cast<int>(published) + 1, 0, 0,
+  AddAt(lacks_words ? Field::LinkText : Field::LinkTarget, static_cast<int>(published_) + 1, 0, 0,
         std::string("The link has no ") + (lacks_words ? "words" : "target") + ", so it " + followers +
             " not in the list below the text.");
 }
@@ -162,17 +195,20 @@ void PageCheck::CheckLinks() {
 void PageCheck::CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads,
                             bool is_published) {
   if (leads.What == Kind::Page && is_published) report_.LeadsTo.push_back(leads.Number);
-  const std::string music = "Music link " + MusicLinkName(leads.Number);
   const auto add = [&](std::string sentence) {
     AddAt(where, row, 0, target.size(), std::move(sentence));
     report_.Findings.back().StopsPublishing = leads.What == Kind::ImpossibleMusic && is_published;
     report_.Findings.back().LeadsNowhere =
-        (leads.What == Kind::EmptyPage || leads.What == Kind::NoPage) && is_published;
+        (leads.What == Kind::EmptyPage || leads.What == Kind::NoPage || leads.What == Kind::NotesMenu) &&
+        is_published;
   };
   switch (leads.What) {
     case Kind::Page:
-    case Kind::Music:
       return;
+    case Kind::Music:
+      if (GetMusic(global_, target).find('"') == std::string::npos) return;
+      return add("A name in music link " + MusicLinkName(leads.Number) +
+                 " holds a quotation mark, at which an iPod ends the link.");
     case Kind::EmptyPage:
       return add("Page " + FormatPage(leads.Number) + " is empty.");
     case Kind::NoPage:
@@ -180,7 +216,8 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
     case Kind::NotesMenu:
       return add("The link leads to no page, but to the Notes menu.");
     case Kind::EmptyMusic:
-      return add(music + " is empty, so the link leads to the Notes menu.");
+      return add("Music link " + MusicLinkName(leads.Number) +
+                 " is empty, so the link leads to the Notes menu.");
     case Kind::ImpossibleMusic:
       return add("There can be no music link " + Quoted(target) +
                  (is_published ? ". Publishing stops here." : "."));
@@ -188,7 +225,7 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
 }
 
 void PageCheck::CheckMusic() {
-  CheckContent(Field::MusicText, 0, parts_.MusicText);
+  CheckLinkWords(Field::MusicText, 0, parts_.MusicText);
   if (parts_.MusicText.empty()) return;
   if (parts_.MusicLink.empty()) {
     Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.");
@@ -199,8 +236,8 @@ void PageCheck::CheckMusic() {
 
 }  // namespace
 
-PageReport CheckPage(const Global& global, int page, const CodePage& code_page) {
-  return PageCheck(global, page, code_page).Run();
+PageReport CheckPage(const Global& global, int page, const PageParts& parts, const CodePage& code_page) {
+  return PageCheck(global, page, parts, code_page).Run();
 }
 
 }  // namespace tavrel

@@ -22,10 +22,11 @@ Finding& Add(std::vector<Finding>& findings, int page, Field where, std::string 
   return finding;
 }
 
-void CheckLength(const Global& global, int page, const PublishOptions& options, PageReport& report) {
+void CheckLength(const Global& global, int page, const PageParts& parts, const PublishOptions& options,
+                 PageReport& report) {
   const auto stops = [](const Finding& finding) { return finding.StopsPublishing; };
   if (std::any_of(report.Findings.begin(), report.Findings.end(), stops)) return;
-  const std::size_t length = NoteText(global, page, options).size();
+  const std::size_t length = NoteText(global, page, parts, options).size();
   if (length <= kShownBytes) return;
   Add(report.Findings, page, Field::Page,
       "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.")
@@ -83,8 +84,9 @@ void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
     if (bytes.Shares(checked.Bytes)) continue;
     checked = {bytes, {}};
     if (bytes.empty()) continue;
-    checked.Report = CheckPage(global, page, code_page);
-    CheckLength(global, page, surroundings_.Options, checked.Report);
+    const PageParts parts = PartsOf(bytes);
+    checked.Report = CheckPage(global, page, parts, code_page);
+    CheckLength(global, page, parts, surroundings_.Options, checked.Report);
   }
 }
 

@@ -18,7 +18,8 @@ struct PageParts {
   std::string_view Text;
   std::string_view MusicText;
   std::string_view MusicLink;
-  std::vector<Link> Links;  ///< up to the last that has words or a target
+  std::vector<Link> Links;      ///< up to the last that has words or a target
+  bool AreLinksListed = false;  ///< all of them stand in the record's first list of links
 
   /// How many links stand below the text: publishing ends the list at the first that lacks either.
   std::size_t PublishedLinks() const;
@@ -42,5 +43,8 @@ struct Brackets {
 };
 
 Brackets BracketsOf(std::string_view text);
+
+/// The first "<" or ">" from a place on, as text.find_first_of("<>", from) finds it, which takes long.
+std::size_t FindBracket(std::string_view text, std::size_t from);
 
 }  // namespace tavrel

@@ -1,6 +1,7 @@
 #include "core/editing/find_all.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/document/markup.h"
 #include "core/document/page_parts.h"
@@ -19,12 +20,13 @@ std::string OnOneLine(std::string_view text) {
 }
 
 /// The rows of the editor: it shows the links in the record's first list of links only.
-std::vector<PageParts::Link> LinksShown(std::string_view record) {
-  return PartsOf(TagContent(record, "<link>", 1)).Links;
+std::vector<PageParts::Link> LinksShown(std::string_view record, PageParts& parts) {
+  return parts.AreLinksListed ? std::move(parts.Links) : PartsOf(TagContent(record, "<link>", 1)).Links;
 }
 
 PageParts::Link LinkShown(std::string_view record, int row) {
-  const std::vector<PageParts::Link> links = LinksShown(record);
+  PageParts parts = PartsOf(record);
+  const std::vector<PageParts::Link> links = LinksShown(record, parts);
   const auto link = static_cast<std::size_t>(row) - 1;
   return link < links.size() ? links[link] : PageParts::Link();
 }
@@ -36,9 +38,10 @@ FindAll::FindAll(const Global& document, std::string_view wanted, bool match_cas
 
 void FindAll::SearchPage(std::vector<Hit>& hits) {
   const std::string& record = document_.Page(page_);
-  if (!record.empty()) {
-    const PageParts parts = PartsOf(record);
-    const std::vector<PageParts::Link> links = LinksShown(record);
+  // Most pages hold none of what is looked for, and are not taken apart.
+  if (search_.Find(record, 0) < record.size()) {
+    PageParts parts = PartsOf(record);
+    const std::vector<PageParts::Link> links = LinksShown(record, parts);
     SearchField(parts.Title, Field::Title, 0, hits);
     SearchField(parts.Note, Field::Note, 0, hits);
     SearchField(parts.Text, Field::Text, 0, hits);

@@ -31,16 +31,12 @@ void StepRecorder::Start() {
   before_.reset();
 }
 
-void StepRecorder::Begin(const Global& global, Shown shown) {
+void StepRecorder::Begin(const Global& global, Shown shown, const std::optional<std::string>& with_redo) {
   Follow(global, document_);
   before_ = std::move(shown);
   name_.clear();
   is_saved_ = false;
-  taken_back_.reset();
-}
-
-void StepRecorder::TakenBack(std::string with_redo) {
-  if (!taken_back_) taken_back_ = std::move(with_redo);
+  with_redo_ = with_redo;
 }
 
 void StepRecorder::End(const Global& global, const Shown& shown) {
@@ -55,10 +51,15 @@ void StepRecorder::End(const Global& global, const Shown& shown) {
     if (AddTyped(before, global, shown.Showing)) changed = Difference(document_, global);
     AddCommand(std::move(changed), before.At, shown.At);
   }
-  const bool has_looked_only = history_.NextUndo() == last && history_.NextRedo() == nullptr;
-  if (has_looked_only && taken_back_ && !(global.Page(before.At.Page) == *taken_back_))
-    AddTakenBack(global, before.At, *taken_back_);
+  const bool has_looked_only = history_.NextUndo() == last && shown.Showing != before.Showing;
+  if (has_looked_only && with_redo_) KeepTakenBack(global, before.At, *with_redo_);
   if (is_saved_) history_.MarkSaved();
+}
+
+/// The fields have forgotten what they had taken back.
+void StepRecorder::KeepTakenBack(const Global& global, const Place& place, const std::string& with_redo) {
+  if (history_.NextRedo() == nullptr && !(global.Page(place.Page) == with_redo))
+    AddTakenBack(global, place, with_redo);
 }
 
 /// Whether all that the command did was to store a page as the editor writes it, without anything typed.

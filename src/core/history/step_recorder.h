@@ -31,18 +31,15 @@ class StepRecorder {
   /// The document is saved as the command that is running leaves it.
   void Saved() { is_saved_ = true; }
 
-  /// A command begins, and ends. One that fails does not end.
-  void Begin(const Global& global, Shown shown);
+  /// A command begins, and ends. One that fails does not end. `with_redo` as for Undo: if the command shows a
+  /// page and makes no step, what the fields had taken back becomes a step that is taken back, unless that
+  /// would cost another step that can be made again.
+  void Begin(const Global& global, Shown shown, const std::optional<std::string>& with_redo = {});
   void End(const Global& global, const Shown& shown);
 
   /// What the step is called that the running command is making. Without a name it is called after what it
   /// changes.
   void Name(std::string name) { name_ = std::move(name); }
-
-  /// The running command is about to replace the shown page in the fields, whose own redo would have made
-  /// this of it. It is kept as a step that is taken back, unless that would cost another step that can be
-  /// made again.
-  void TakenBack(std::string with_redo);
 
   /// Take back and make again a step, as commands. Null if there is none. Typing that is not stored is taken
   /// back first, as a step; it leaves nothing to be made again. `with_redo` is the page as it would be if the
@@ -61,6 +58,7 @@ class StepRecorder {
   bool IsOnlyRewritten(const Shown& editor, const Step& changed, std::size_t showing) const;
   bool AddTyped(const Shown& editor, const Global& global, std::size_t showing);
   bool AddStored(const Shown& editor, const Record& stored, std::size_t showing);
+  void KeepTakenBack(const Global& global, const Place& place, const std::string& with_redo);
   const Step& AddTakenBack(const Global& global, const Place& place, const std::string& with_redo);
   void AddCommand(Step step, const Place& before, const Place& after);
   std::size_t StepsSinceTyped(const Shown& shown) const;
@@ -70,7 +68,7 @@ class StepRecorder {
   std::optional<Shown> before_;  ///< the editor then; none while no command runs that can leave a step
   std::string name_;
   bool is_saved_ = false;
-  std::optional<std::string> taken_back_;
+  std::optional<std::string> with_redo_;
 };
 
 }  // namespace tavrel

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/document/markup.h"
+#include "core/document/page_parts.h"
 #include "core/ipod/folder_store.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -33,49 +34,50 @@ void AppendLinkOpening(std::string& note, const Global& global, std::string_view
   note.append("\">");
 }
 
-void AppendMusic(std::string& note, const Global& global, std::string_view record) {
-  TagWalker music(record, "<music>");
-  const std::string_view caption = music.NextContent();
-  if (caption.empty()) return;
-  AppendAnchor(note, GetMusic(global, music.NextContent()), caption);
+void AppendTitleLine(std::string& note, int page, std::string_view title) {
+  note.append("<title>").append(page == 1 ? "-" : "").append(title).append("</title>").append(kLineEnd);
+}
+
+void AppendMusic(std::string& note, const Global& global, const PageParts& parts) {
+  if (parts.MusicText.empty()) return;
+  AppendAnchor(note, GetMusic(global, parts.MusicLink), parts.MusicText);
   note.append(kLineEnd);
 }
 
-void AppendPageLinks(std::string& note, const Global& global, std::string_view record) {
-  TagWalker texts(record, "<linktext>");
-  TagWalker targets(record, "<linkto>");
-  while (true) {
-    const std::string_view text = texts.NextContent();
-    const std::string_view target = targets.NextContent();
-    if (text.empty() || target.empty()) return;
-    AppendLinkOpening(note, global, target);
-    note.append(text).append("</a>").append(kLineEnd);
+void AppendPageLinks(std::string& note, const Global& global, const PageParts& parts) {
+  const std::size_t published = parts.PublishedLinks();
+  for (std::size_t link = 0; link < published; ++link) {
+    AppendLinkOpening(note, global, parts.Links[link].Target);
+    note.append(parts.Links[link].Text).append("</a>").append(kLineEnd);
+  }
+}
+
+void AppendText(std::string& note, const Global& global, std::string_view text, const PageParts& parts) {
+  const std::size_t first = FindBracket(text, 0);
+  if (first == std::string_view::npos || text[first] == '>' || text.find('>') == std::string_view::npos) {
+    note.append(text);
+    return;
+  }
+  std::size_t link = 0;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t bracket = FindBracket(text, at);
+    note.append(text.substr(at, bracket - at));
+    if (bracket == std::string_view::npos) break;
+    if (text[bracket] == '<') {
+      AppendLinkOpening(note, global, link < parts.Links.size() ? parts.Links[link].Target : "");
+      ++link;
+    } else {
+      note.append("</a>");
+    }
+    at = bracket + 1;
   }
 }
 
 }  // namespace
 
 std::string GetText(const Global& global, std::string_view text, int page) {
-  const std::size_t first_opening = text.find('<');
-  const std::size_t first_closing = text.find('>');
-  if (first_opening == std::string_view::npos || first_closing == std::string_view::npos ||
-      first_closing < first_opening) {
-    return std::string(text);
-  }
-
-  TagWalker targets(global.Page(page), "<linkto>");
   std::string result;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t bracket = text.find_first_of("<>", at);
-    result.append(text.substr(at, bracket - at));
-    if (bracket == std::string_view::npos) break;
-    if (text[bracket] == '<') {
-      AppendLinkOpening(result, global, targets.NextContent());
-    } else {
-      result.append("</a>");
-    }
-    at = bracket + 1;
-  }
+  AppendText(result, global, text, PartsOf(global.Page(page)));
   return result;
 }
 
@@ -109,23 +111,27 @@ std::string NoteName(int page) {
 }
 
 std::string NoteTitleLine(const Global& global, int page) {
-  return std::string("<title>")
-      .append(page == 1 ? "-" : "")
-      .append(TagContent(global.Page(page), "<title>", 1))
-      .append("</title>")
-      .append(kLineEnd);
+  std::string line;
+  AppendTitleLine(line, page, TagContent(global.Page(page), "<title>", 1));
+  return line;
 }
 
 std::string NoteText(const Global& global, int page, const PublishOptions& options) {
-  const std::string& record = global.Page(page);
-  std::string note = NoteTitleLine(global, page);
-  note.reserve(record.size() + record.size() / 4);
+  return NoteText(global, page, PartsOf(global.Page(page)), options);
+}
+
+std::string NoteText(const Global& global, int page, const PageParts& parts, const PublishOptions& options) {
+  std::string note;
+  const std::size_t size = global.Page(page).size();
+  note.reserve(size + size / 4);
+  AppendTitleLine(note, page, parts.Title);
   note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
   if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
 
-  AppendMusic(note, global, record);
-  note.append(GetText(global, TagContent(record, "<text>", 1), page)).append(kLineEnd);
-  AppendPageLinks(note, global, record);
+  AppendMusic(note, global, parts);
+  AppendText(note, global, parts.Text, parts);
+  note.append(kLineEnd);
+  AppendPageLinks(note, global, parts);
   if (options.NotesMenuLink) {
     AppendAnchor(note, kNotesMenu, "Notes menu");
     note.append(kLineEnd);
@@ -136,13 +142,13 @@ std::string NoteText(const Global& global, int page, const PublishOptions& optio
 void PublishNotes(const Global& global, Platform& platform, const fs::path& folder,
                   const PublishOptions& options) {
   std::error_code error;
-  fs::create_directory(folder, error);
+  const bool is_new = fs::create_directory(folder, error);
   if (error) throw FileError(folder, "could not be made", error);
 
   for (int page = 1; page <= kLastPage; ++page) {
     if (global.Page(page).empty()) continue;
     const std::string note = NoteText(global, page, options);
-    RemoveLinkAt(folder / NoteName(page));
+    if (!is_new) RemoveLinkAt(folder / NoteName(page));
     platform.WritePlainFile(folder / NoteName(page), note);
   }
 }

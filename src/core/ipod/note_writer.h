@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "core/document/global.h"
+#include "core/document/page_parts.h"
 #include "core/platform.h"
 
 namespace tavrel {
@@ -34,6 +35,8 @@ std::string NoteTitleLine(const Global& global, int page);
 
 /// The bytes of a page's note file.
 std::string NoteText(const Global& global, int page, const PublishOptions& options);
+/// The same of a page that has been taken apart.
+std::string NoteText(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
 
 /// Writes one note file for each page that is not empty into the folder, which is made if need be. Files that
 /// no page rewrites stay; a link in a note's place is replaced. Throws FileError, and RunTimeError for an

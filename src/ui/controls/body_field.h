@@ -21,7 +21,7 @@ class BodyField : public QPlainTextEdit, public TextField {
 
   void SetCodePage(const CodePage& code_page) { code_page_ = &code_page; }
 
-  std::string Bytes() const;
+  std::string Bytes() const override;
   void SetBytes(std::string_view bytes);
 
   /// The number of bytes, without building them.

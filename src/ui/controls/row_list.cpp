@@ -1,6 +1,7 @@
 #include "ui/controls/row_list.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 
 namespace tavrel {
 
@@ -19,6 +20,18 @@ RowList::RowList(QWidget* parent) : QTreeView(parent) {
 
 void RowList::SelectRow(int row) {
   setCurrentIndex(model()->index(row, 0));
+}
+
+int RowList::Top() const {
+  return verticalScrollBar()->value();
+}
+
+void RowList::Restore(int top, int selected) {
+  executeDelayedItemsLayout();
+  setAutoScroll(false);
+  if (selected >= 0) SelectRow(selected);
+  setAutoScroll(true);
+  verticalScrollBar()->setValue(top);
 }
 
 void RowList::keyPressEvent(QKeyEvent* event) {

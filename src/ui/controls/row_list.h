@@ -14,6 +14,12 @@ class RowList : public QTreeView {
   int Row() const { return currentIndex().row(); }
   void SelectRow(int row);
 
+  /// The first row in view.
+  int Top() const;
+  /// After the rows have been renewed: brings that row to the top again and selects another one, or none if
+  /// it is negative, wherever it is.
+  void Restore(int top, int selected);
+
  signals:
   /// A row was clicked.
   void Clicked(int row);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 class QKeyEvent;
 class QWidget;
 
@@ -9,6 +11,9 @@ namespace tavrel {
 class TextField {
  public:
   virtual ~TextField() = default;
+
+  /// What stands in it, in the code page.
+  virtual std::string Bytes() const = 0;
 
   /// Whether there is typing to take back, or to make again.
   virtual bool HasUndo() const = 0;

@@ -4,7 +4,7 @@
 
 namespace tavrel {
 
-CommandSteps::CommandSteps(App& app, const Editor& editor) : app_(app), editor_(editor) {
+CommandSteps::CommandSteps(App& app, Editor& editor) : app_(app), editor_(editor) {
   app_.Control.SetWatch(this);
 }
 
@@ -14,7 +14,7 @@ CommandSteps::~CommandSteps() {
 
 void CommandSteps::Begins() {
   is_recorded_ = app_.State.IsDocumentOpen() && app_.State.IsDocumentShown;
-  if (is_recorded_) app_.Steps.Begin(app_.State, editor_.Now());
+  if (is_recorded_) app_.Steps.Begin(app_.State, editor_.Now(), editor_.TypedWithRedo());
 }
 
 void CommandSteps::Ends() {

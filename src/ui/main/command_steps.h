@@ -10,7 +10,7 @@ class Editor;
 /// Records what every command does to the document, so that it can be taken back.
 class CommandSteps : public CommandWatch {
  public:
-  CommandSteps(App& app, const Editor& editor);
+  CommandSteps(App& app, Editor& editor);
   ~CommandSteps() override;
 
   void Begins() override;
@@ -18,7 +18,7 @@ class CommandSteps : public CommandWatch {
 
  private:
   App& app_;
-  const Editor& editor_;
+  Editor& editor_;
   bool is_recorded_ = false;
 };
 

@@ -39,6 +39,9 @@ class Editor {
   virtual std::size_t Showing() const = 0;
   /// The same with what the fields hold.
   virtual Shown Now() const = 0;
+  /// The current page's record as the next storing makes it, which is the record itself if nobody has touched
+  /// the page. What stands in the link entry fields is not in the grid yet and does not count.
+  virtual std::string PageToStore() const = 0;
   /// The current page's record as it would be if the fields' own redo made all typing again; nothing if they
   /// have none.
   virtual std::optional<std::string> TypedWithRedo() = 0;
@@ -49,10 +52,10 @@ class Editor {
   virtual QWidget* FieldWithRedo() const = 0;
   /// Shows the document as it is now, at a place in it.
   virtual void ShowAt(const Place& place) = 0;
-  /// Stores the page and shows another one, 1 to 999.
+  /// Stores the page and shows another one, 1 to 999. Does nothing if it is shown or no document is.
   virtual void ShowPage(int page) = 0;
-  /// Stores the page and shows a part of a field, selected. What is no part of the pages 1 to 999 is left
-  /// alone.
+  /// Shows a part of a field, selected, and stores the page if it stands on another one. What is no part of
+  /// the pages 1 to 999 is left alone. A link that the editor has no row for leads to its page.
   virtual void ShowPart(const FieldPart& part) = 0;
 
   /// Renews the music links in the lists of targets, and the page's own from its record. The lists' pages and

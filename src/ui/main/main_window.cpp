@@ -113,7 +113,6 @@ void Main::LoadDoc() {
 }
 
 void Main::LoadPage(int page) {
-  KeepTakenBack();
   const PageFields fields = ReadPage(app_.State.Page(page));
   page_->ShowFields(fields);
   grids_->ShowLinks(fields);
@@ -127,12 +126,6 @@ void Main::LoadPage(int page) {
   loaded_record_ = app_.State.Page(page);
   shown_record_ = first_record_;
   ++showing_;
-}
-
-/// The fields are about to forget what they have taken back.
-void Main::KeepTakenBack() {
-  if (FieldWithRedo() == nullptr) return;
-  page_->WithRedo([this] { app_.Steps.TakenBack(RecordOfFields()); });
 }
 
 void Main::SavePage() {
@@ -167,6 +160,11 @@ std::string Main::RecordOfFields() const {
   PageFields fields = StoredFields();
   fields.Links.at(static_cast<std::size_t>(app_.State.CurrentLink) - 1) = page_->TypedLink();
   return BuildPage(fields, app_.CodePageInUse());
+}
+
+std::string Main::PageToStore() const {
+  std::string stored = BuildPage(StoredFields(), app_.CodePageInUse());
+  return stored == shown_record_ ? app_.State.Page(app_.State.CurrentPage).Bytes() : stored;
 }
 
 std::string Main::TypedPage() const {
@@ -227,6 +225,7 @@ void Main::ShowAt(const Place& place) {
 }
 
 void Main::ShowPage(int page) {
+  if (!app_.State.IsDocumentShown || page == app_.State.CurrentPage) return;
   StoreTyped();
   app_.State.CurrentPage = static_cast<std::int16_t>(page);
   LoadPage(page);
@@ -234,10 +233,23 @@ void Main::ShowPage(int page) {
 
 void Main::ShowPart(const FieldPart& part) {
   if (!app_.State.IsDocumentShown || part.Page < 1 || part.Page > kLastPage) return;
-  // To store an untouched page could move the part: fields are trimmed.
-  const bool is_here = part.Page == app_.State.CurrentPage;
-  if (!is_here || Now().Typed != app_.State.Page(part.Page).Bytes()) StoreTyped();
-  ShowAt(page_->PlaceOf(part));
+  const FieldPart shown = part.Link > kLastLink ? FieldPart{.Page = part.Page} : part;
+  if (part.Page == app_.State.CurrentPage) {
+    SelectHere(shown);
+    return;
+  }
+  StoreTyped();
+  ShowAt(page_->PlaceOf(shown));
+  page_->Select(shown);
+}
+
+/// Nothing is stored, which would throw half-typed links away.
+void Main::SelectHere(FieldPart part) {
+  const bool is_as_read = PageToStore() != BuildPage(StoredFields(), app_.CodePageInUse());
+  if (!is_as_read) part.Link = grids_->RowOf(part.Link);
+  if (part.Link > 0 && part.Link != app_.State.CurrentLink) MSFlexGrid1_Click(part.Link);
+  page_->FocusOn(page_->PlaceOf(part));
+  if (!is_as_read) part.Position += page_->BlanksBefore(part.Where);
   page_->Select(part);
 }
 

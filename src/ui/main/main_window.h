@@ -54,6 +54,7 @@ class Main : public QMainWindow, public Editor {
   void ShowAt(const Place& place) override;
   void ShowPage(int page) override;
   void ShowPart(const FieldPart& part) override;
+  std::string PageToStore() const override;
   void RefreshMusicLinks() override;
   void ShowControls() override;
   void HideControls() override;
@@ -101,7 +102,7 @@ class Main : public QMainWindow, public Editor {
   void MoveFocusToBody();
   void NameSeparators();
   /// The fields and the links grid, without the link that is being typed.
-  void KeepTakenBack();
+  void SelectHere(FieldPart part);
   PageFields StoredFields() const;
   /// The record that the fields give with it.
   std::string RecordOfFields() const;

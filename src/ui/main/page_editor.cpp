@@ -90,6 +90,11 @@ Place PageEditor::PlaceOf(const FieldPart& part) const {
   return {part.Page, row, ControlOf(part.Where).objectName().toStdString(), 0, 0, row};
 }
 
+std::size_t PageEditor::BlanksBefore(Field field) const {
+  const std::string bytes = FieldOf(&ControlOf(field))->Bytes();
+  return static_cast<std::size_t>(TrimBlanks(bytes).data() - bytes.data());
+}
+
 void PageEditor::Select(const FieldPart& part) {
   QWidget& control = ControlOf(part.Where);
   if (part.Where == Field::Page) return;

@@ -45,6 +45,8 @@ class PageEditor : public QObject {
 
   /// The field of a part, with the caret at its beginning.
   Place PlaceOf(const FieldPart& part) const;
+  /// How many blanks stand in front of what storing makes of a field, in bytes.
+  std::size_t BlanksBefore(Field field) const;
   /// Selects a part of the page that is shown.
   void Select(const FieldPart& part);
 

@@ -3,6 +3,7 @@
 #include <QHeaderView>
 
 #include "core/document/markup.h"
+#include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "ui_main_window.h"
 
@@ -70,6 +71,14 @@ std::array<Link, kLastLink> PageGrids::Links() const {
   std::array<Link, kLastLink> links;
   for (int row = 1; row <= kLastLink; ++row) links[static_cast<std::size_t>(row) - 1] = LinkAt(row);
   return links;
+}
+
+int PageGrids::RowOf(int link) const {
+  int passed = 0;
+  for (int row = 1; row <= kLastLink; ++row) {
+    if (!TrimBlanks(LinkAt(row).Target).empty() && ++passed == link) return row;
+  }
+  return link;
 }
 
 void PageGrids::StoreLink(const Link& link) {

@@ -30,6 +30,8 @@ class PageGrids {
   void SelectLink(int row);
   Link LinkAt(int row) const;
   std::array<Link, kLastLink> Links() const;
+  /// The row of a link of the record that storing makes, which has no links without targets.
+  int RowOf(int link) const;
   /// Writes a link into the current link's row and selects it.
   void StoreLink(const Link& link);
 

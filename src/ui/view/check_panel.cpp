@@ -24,8 +24,9 @@ CheckPanel::~CheckPanel() = default;
 void CheckPanel::Show(std::vector<Finding> findings, const QString& summary) {
   const int row = ui_->Findings->Row();
   const std::optional<Finding> current = row >= 0 ? std::optional(model_->At(row)) : std::nullopt;
+  const int top = ui_->Findings->Top();
   model_->Set(std::move(findings));
-  if (current && ui_->Findings->Row() < 0) ui_->Findings->SelectRow(model_->RowOf(*current));
+  ui_->Findings->Restore(top, current ? model_->RowOf(*current) : -1);
   ui_->Summary->setText(summary);
 }
 

@@ -43,6 +43,7 @@ FindAllPanel::~FindAllPanel() = default;
 
 void FindAllPanel::Show(const Global& document) {
   document_ = document;
+  top_ = ui_->Hits->Top();
   Restart();
 }
 
@@ -71,8 +72,9 @@ void FindAllPanel::GoOn() {
   const bool is_done = !search_ || search_->IsDone();
   if (is_done) {
     timer_->stop();
-    if (current_ && ui_->Hits->Row() < 0) ui_->Hits->SelectRow(model_->RowOf(*current_));
+    ui_->Hits->Restore(top_, current_ && ui_->Hits->Row() < 0 ? model_->RowOf(*current_) : -1);
     current_.reset();
+    top_ = 0;
   } else {
     timer_->start(0);
   }

@@ -46,6 +46,7 @@ class FindAllPanel : public QWidget {
   QTimer* timer_;
   Global document_;
   std::unique_ptr<FindAll> search_;
+  int top_ = 0;                       ///< the first row in view then, if the document has changed
   std::optional<FieldPart> current_;  ///< where people stood before the search began again
 };
 

@@ -45,7 +45,7 @@ void LiveDocument::Look() {
 Global LiveDocument::WithTyped() {
   Global document = app_.State;
   Record& page = document.Page(document.CurrentPage);
-  typed_.Update(editor_.Now().Typed);
+  typed_.Update(editor_.PageToStore());
   if (page != typed_) page = typed_;
   return document;
 }

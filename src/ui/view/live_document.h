@@ -10,7 +10,7 @@ class QTimer;
 
 namespace tavrel {
 
-/// The document as it would be if everything that is typed were stored now, a quarter of a second late.
+/// The document as it would be if the page were stored now, a quarter of a second late.
 class LiveDocument : public QObject {
   Q_OBJECT
 

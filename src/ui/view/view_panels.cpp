@@ -55,6 +55,7 @@ QDockWidget* ViewPanels::MakeDock(QWidget* panel, QAction* item, Qt::DockWidgetA
   dock->hide();
   connect(dock, &QDockWidget::visibilityChanged, this, [this, dock, item](bool is_visible) {
     item->setChecked(!dock->isHidden());
+    NameTabs();
     if (!is_visible) return;
     app_.Control.RunAside([this] {
       live_.Look();
@@ -78,9 +79,7 @@ void ViewPanels::AddCount() {
 }
 
 void ViewPanels::ViewPreview_Click() {
-  preview_dock_->setVisible(items_.Preview->isChecked());
-  preview_dock_->raise();
-  if (!std::exchange(has_made_room_, true)) MakeRoomForPreview();
+  if (Show(*preview_dock_, *items_.Preview) && !std::exchange(has_made_room_, true)) MakeRoomForPreview();
 }
 
 /// The editor needs the room that it has, so the window grows as far as the screen does.
@@ -104,24 +103,25 @@ void ViewPanels::ViewFindAll_Click() {
   if (find_all_dock_->isFloating()) find_all_dock_->activateWindow();
 }
 
-/// The two lists share a place until people part them. False if the panel was closed: the item was ticked,
-/// and the panel not only behind the other one.
-bool ViewPanels::ShowAtBottom(QDockWidget& dock, QAction& item) {
+/// False if the panel was closed: the item was ticked, and the panel not only behind another one.
+bool ViewPanels::Show(QDockWidget& dock, QAction& item) {
   if (!item.isChecked() && dock.widget()->isVisible()) {
     dock.hide();
     return false;
   }
   item.setChecked(true);
-  QDockWidget& other = &dock == check_dock_ ? *find_all_dock_ : *check_dock_;
-  const bool is_beside = !dock.isFloating() && !other.isFloating() && !other.isHidden() &&
-                         window_.dockWidgetArea(&dock) == window_.dockWidgetArea(&other);
-  if (is_beside && dock.isHidden()) {
-    window_.tabifyDockWidget(&other, &dock);
-    NameTabs();
-  }
   dock.show();
   dock.raise();
   return true;
+}
+
+/// The two lists share a place until people part them.
+bool ViewPanels::ShowAtBottom(QDockWidget& dock, QAction& item) {
+  QDockWidget& other = &dock == check_dock_ ? *find_all_dock_ : *check_dock_;
+  const bool is_beside = !dock.isFloating() && !other.isFloating() && !other.isHidden() &&
+                         window_.dockWidgetArea(&dock) == window_.dockWidgetArea(&other);
+  if (is_beside && dock.isHidden()) window_.tabifyDockWidget(&other, &dock);
+  return Show(dock, item);
 }
 
 void ViewPanels::NameTabs() {

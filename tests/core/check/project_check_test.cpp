@@ -62,7 +62,11 @@ TEST_F(ProjectCheckTest, APageWithATitleAloneIsSound) {
 
 TEST_F(ProjectCheckTest, APageWithoutATitle) {
   global_->Page(1) = "<text>x</text>";
-  ExpectOne(Field::Title, 0, 0, 0, "The page has no title, so the Notes menu shows its file name.");
+  ExpectOne(Field::Title, 0, 0, 0, "The page has no title, so the Notes menu shows a dash.");
+  SetText("", Link("two", "002"));
+  global_->Page(2) = "<text>x</text>";
+  EXPECT_EQ(Sentences(),
+            std::vector<std::string>{"The page has no title, so the Notes menu shows its file name."});
 }
 
 TEST_F(ProjectCheckTest, ALinkToAPageThatThereIs) {
@@ -257,6 +261,83 @@ TEST_F(ProjectCheckTest, CharactersOfANoteToOneselfDoNotCount) {
 TEST_F(ProjectCheckTest, ATagTypedIntoATitle) {
   global_->Page(1) = "<title>a<note>b</title>";
   ExpectOne(Field::Title, 0, 1, 6, "<note> cannot stand in a page.");
+}
+
+TEST_F(ProjectCheckTest, WordsInBracketsThatLookLikeATagOfAnotherPlace) {
+  SetText("see <link> and <text> here", Link("link", "001") + Link("text", "001"));
+  ExpectNothing();
+}
+
+TEST_F(ProjectCheckTest, ATagTypedIntoAText) {
+  global_->Page(1) = "<title>T</title><text>a</link>b</text>";
+  const std::vector<std::string> sentences = Sentences();
+  EXPECT_EQ(std::count(sentences.begin(), sentences.end(), "</link> cannot stand in a page."), 1);
+}
+
+TEST_F(ProjectCheckTest, BracketsInTheWordsOfALinkOrOfMusic) {
+  global_->MusicLink(5) = "<song>S</song>";
+  SetText("", Link("a > b", "001"));
+  ExpectNothing();
+  SetText("", Link("a <b> c", "001"));
+  ExpectOne(Field::LinkText, 1, 2, 1, "An iPod takes the < for the beginning of a tag.");
+  SetPage(1, "<music>b < c</music><music>M5</music>");
+  ExpectOne(Field::MusicText, 0, 2, 1, "An iPod takes the < for the beginning of a tag.");
+}
+
+TEST_F(ProjectCheckTest, AQuotationMarkInMusic) {
+  global_->MusicLink(5) = "<song>S</song><notes>\"remember\"</notes>";
+  SetText("", Link("x", "M5"));
+  ExpectNothing();
+  global_->MusicLink(5) = "<song>The \"Best\"</song>";
+  ExpectOne(Field::LinkTarget, 1, 0, 2,
+            "A name in music link M5 holds a quotation mark, at which an iPod ends the link.");
+}
+
+TEST_F(ProjectCheckTest, LinksThatLeadNowhere) {
+  global_->MusicLink(5) = "<song>S</song>";
+  SetText("", Link("a", "007") + Link("b", "000") + Link("c", "1000") + Link("d", "M9") + Link("e", "M5") +
+                  Link("f", "001"));
+  const std::vector<Finding> findings = Findings();
+  EXPECT_EQ(std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.LeadsNowhere; }),
+            3);
+}
+
+TEST_F(ProjectCheckTest, ATagTypedIntoANote) {
+  global_->Page(1) = "<title>T</title><note>a<text>b</note><text>x</text>";
+  const std::vector<std::string> sentences = Sentences();
+  EXPECT_NE(std::find(sentences.begin(), sentences.end(), "<text> cannot stand in a page."), sentences.end());
+}
+
+TEST_F(ProjectCheckTest, WordsBehindAFieldsOwnClosingTag) {
+  global_->MusicLink(5) = "<song>S</song>";
+  global_->Page(1) = "<title>ab</title>c</title>";
+  ExpectOne(Field::Title, 0, 2, 0, "What stands behind </title> is lost.");
+  SetPage(1, "<note>abc</note>d</note>");
+  ExpectOne(Field::Note, 0, 3, 0, "What stands behind </note> is lost.");
+  SetPage(1, "<text>a</text>b</text>");
+  ExpectOne(Field::Text, 0, 1, 0, "What stands behind </text> is lost.");
+  SetText("", Link("a", "001") + Link("b</linktext>c", "001"));
+  ExpectOne(Field::LinkText, 2, 1, 0, "What stands behind </linktext> is lost.");
+  SetText("", Link("a", "001</linkto>x"));
+  ExpectOne(Field::LinkTarget, 1, 3, 0, "What stands behind </linkto> is lost.");
+  SetPage(1, "<music>So</music>ng</music><music>M5</music>");
+  ExpectOne(Field::MusicText, 0, 2, 0, "What stands behind </music> is lost.");
+  SetPage(1, "<music>Song</music><music>M5</music>x</music>");
+  ExpectOne(Field::MusicLink, 0, 2, 0, "What stands behind </music> is lost.");
+}
+
+TEST_F(ProjectCheckTest, WordsInFrontOfAllFieldsOrInAFieldThatComesTwiceOrDoesNotEnd) {
+  global_->Page(1) = "words<title>T</title>";
+  ExpectOne(Field::Page, 0, 0, 0, "Words that stand in no field are lost.");
+  SetPage(1, "<title>U</title>");
+  ExpectOne(Field::Title, 0, 1, 0, "What stands behind </title> is lost.");
+  SetPage(1, "<text>never ended");
+  ExpectOne(Field::Title, 0, 1, 0, "What stands behind </title> is lost.");
+}
+
+TEST_F(ProjectCheckTest, BlanksBetweenTheFieldsAreNoWords) {
+  global_->Page(1) = " <title>T</title> \r\n <text>a</text>\r\n";
+  ExpectNothing();
 }
 
 TEST_F(ProjectCheckTest, TheLastMusicLinkIsNotStored) {

@@ -24,7 +24,6 @@ void RecordedEditor::SavePage() {
 }
 
 void RecordedEditor::LoadPage(int page) {
-  if (FieldRedo) Steps.TakenBack(*RedoRecord());
   State.CurrentPage = static_cast<std::int16_t>(page);
   Field = State.Page(page);
   FieldRedo.reset();
@@ -87,7 +86,7 @@ std::string RecordedEditor::TypedAs(const std::string& text) const {
 }
 
 std::optional<std::string> RecordedEditor::RedoRecord() const {
-  return FieldRedo ? std::optional(Stored(*FieldRedo)) : std::nullopt;
+  return FieldRedo ? std::optional(TypedWithRedo()) : std::nullopt;
 }
 
 std::string RecordedEditor::TypedWithRedo() const {

@@ -28,7 +28,7 @@ class RecordedEditor {
   /// Runs a command; no name leaves it to the recorder.
   template <typename Handler>
   void Run(const std::string& name, const Handler& handler) {
-    Steps.Begin(State, Now());
+    Steps.Begin(State, Now(), RedoRecord());
     if (!name.empty()) Steps.Name(name);
     handler();
     Steps.End(State, Now());

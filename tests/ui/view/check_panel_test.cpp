@@ -50,14 +50,14 @@ TEST_F(CheckPanelTest, TheCountStandsInTheStatusBarWhileThePanelIsClosed) {
   EXPECT_TRUE(Window().statusBar()->isAncestorOf(&count));
   TypeInto(Title(), "");
   EXPECT_TRUE(WaitFor([&] { return Count() == "1 problem"; })) << Count();
-  TypeInto(LinkTarget(), "9");
+  TypeInto(LinkTarget(), "9\n");
   // Page 9 is empty, and no longer are pages 2 and 3 reached.
   EXPECT_TRUE(WaitFor([&] { return Count() == "4 problems"; })) << Count();
 }
 
 TEST_F(CheckPanelTest, TheListFollowsTypingInAFieldThatIsNotLeft) {
   OpenWith(Sound());
-  const std::string title = "001 | Title | " + kNoTitle;
+  const std::string title = "001 | Title | The page has no title, so the Notes menu shows a dash.";
   const std::string text = "001 | Text | " + kLoneBracket;
   const std::string music = "001 | Music link | ";
   const std::string page = "002 | Page | " + kUnreached;
@@ -68,6 +68,10 @@ TEST_F(CheckPanelTest, TheListFollowsTypingInAFieldThatIsNotLeft) {
   ExpectSoon({title, text}, "2 problems");
   EXPECT_TRUE(Body().hasFocus());
   TypeInto(LinkTarget(), "003");
+  LetPanelsLook();
+  // A link is stored with its Enter, or when its field is left.
+  ExpectSoon({title, text}, "2 problems");
+  PressKey(LinkTarget(), Qt::Key_Return);
   ExpectSoon({title, text, page}, "3 problems");
   EXPECT_TRUE(LinkTarget().hasFocus());
   TypeInto(MusicText(), "Listen");
@@ -127,7 +131,7 @@ TEST_F(CheckPanelTest, ARowThatIsMendedIsNoLongerSelected) {
   OpenWrong();
   ClickRowOf(Findings(), RowWith(Findings(), "Page 007 is empty."));
   ClickRow(LinksGrid(), 3);
-  TypeInto(LinkTarget(), "001");
+  TypeInto(LinkTarget(), "001\n");
   ASSERT_TRUE(WaitFor([&] { return Count() == "9 problems"; }));
   EXPECT_EQ(SelectedRow(Findings()), "");
 }

@@ -35,18 +35,18 @@ struct Problem {
 inline const std::vector<Problem>& ProblemsOfWrong() {
   static const std::vector<Problem> kProblems = {
       {"001 | Link to 3 | Page 007 is empty.", "page 1, link 3, Combo1 [007]"},
-      {"002 | Title | " + kNoTitle, "page 2, link 1, Text3 []"},
-      {"002 | Text | " + kLoneBracket, "page 2, link 1, Text1 [<]"},
-      {"003 | Title | " + kStrange, "page 3, link 1, Text3 [\u20AC]"},
+      {"002 | Title | " + kNoTitle, "page 2, Text3 []"},
+      {"002 | Text | " + kLoneBracket, "page 2, Text1 [<]"},
+      {"003 | Title | " + kStrange, "page 3, Text3 [\u20AC]"},
       {"003 | Link text 1 | The link has no words, so it and the link behind it are not in the list below "
        "the "
        "text.",
        "page 3, link 1, Text5 []"},
       {"003 | Link text 2 | " + kStrange, "page 3, link 2, Text5 [\u20AC]"},
-      {"003 | Music text | " + kStrange, "page 3, link 1, Text6 [\u20AC]"},
+      {"003 | Music text | " + kStrange, "page 3, Text6 [\u20AC]"},
       {"003 | Music link | Music link M6 is empty, so the link leads to the Notes menu.",
-       "page 3, link 1, Combo2 [M6]"},
-      {"004 | Page | " + kUnreached, "page 4, link 1, Text1 []"},
+       "page 3, Combo2 [M6]"},
+      {"004 | Page | " + kUnreached, "page 4, Text1 []"},
   };
   return kProblems;
 }

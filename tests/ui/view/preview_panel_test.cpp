@@ -85,7 +85,7 @@ TEST_F(PreviewPanelTest, ItFollowsTypingInEveryFieldThatANoteHas) {
   ASSERT_EQ(Screen(), "-Start|[Play]\nSee Part two\nPart two\n");
   ExpectTypingShows(Title(), "Hello", "-Hello|[Play]\nSee Part two\nPart two\n");
   ExpectTypingShows(Body(), "Go <there>\nnow", "-Hello|[Play]\nGo there\nnow\nPart two\n");
-  ExpectTypingShows(LinkText(), "Next one", "-Hello|[Play]\nGo there\nnow\nNext one\n");
+  ExpectTypingShows(LinkText(), "Next one\n", "-Hello|[Play]\nGo there\nnow\nNext one\n");
   ExpectTypingShows(MusicText(), "Listen", "-Hello|[Listen]\nGo there\nnow\nNext one\n");
   ExpectTypingShows(MusicText(), "", "-Hello|Go [there]\nnow\nNext one\n");
 }
@@ -96,13 +96,36 @@ TEST_F(PreviewPanelTest, ItFollowsTypedTargets) {
   QTest::qWait(kALook);
   PressKey(Device(), Qt::Key_Return);
   EXPECT_EQ(Notice(), "An iPod would play: playlist Road");
-  TypeInto(LinkTarget(), "001");
+  TypeInto(LinkTarget(), "001\n");
   QTest::qWait(kALook);
   PressKey(Device(), Qt::Key_Down);
   PressKey(Device(), Qt::Key_Return);
   EXPECT_EQ(Screen(), "-Start|[Play]\nSee Part two\nPart two\n");
   PressKey(Device(), Qt::Key_Escape);
   EXPECT_EQ(Screen(), "-Start|Play\nSee [Part two]\nPart two\n") << "the link had led to another showing";
+}
+
+TEST_F(PreviewPanelTest, ALinkAppearsWhenItIsStored) {
+  OpenSongs();
+  TypeInto(LinkText(), "Next one");
+  QTest::qWait(kALook);
+  EXPECT_EQ(Screen(), "-Start|[Play]\nSee Part two\nPart two\n") << "publishing would write this";
+  PressKey(LinkText(), Qt::Key_Tab);
+  EXPECT_TRUE(Comes("-Start|[Play]\nSee Part two\nNext one\n")) << Screen();
+}
+
+TEST_F(PreviewPanelTest, ItShowsWhatPublishingWritesWhileALinkIsBeingWritten) {
+  OpenSongs();
+  ClickRow(LinksGrid(), 2);
+  TypeInto(LinkText(), "new words");
+  TypeInto(LinkTarget(), "001");
+  QTest::qWait(kALook);
+  EXPECT_EQ(Screen(), "-Start|[Play]\nSee Part two\nPart two\n");
+  Player.Expect("Publish", [](QWidget& dialog) { test::Click(dialog, "Command2"); });
+  Choose("ToolsPublish");
+  const std::string note = Folder.Read("Songs/z001.txt");
+  EXPECT_NE(note.find("Part two</a>"), std::string::npos) << note;
+  EXPECT_EQ(note.find("new words"), std::string::npos) << note;
 }
 
 TEST_F(PreviewPanelTest, ThePagesNoteIsNotShownOnADevice) {

@@ -111,8 +111,10 @@ std::string ViewTest::Where() {
   QWidget* focus = QApplication::focusWidget();
   EXPECT_EQ(PagesGrid().Row(), State.CurrentPage);
   EXPECT_EQ(LinksGrid().Row(), State.CurrentLink);
-  return "page " + std::to_string(State.CurrentPage) + ", link " + std::to_string(State.CurrentLink) + ", " +
-         (focus == nullptr ? "nowhere" : focus->objectName().toStdString()) + " [" +
+  const std::string field = focus == nullptr ? "nowhere" : focus->objectName().toStdString();
+  const bool is_link = field == "Text5" || field == "Combo1";
+  return "page " + std::to_string(State.CurrentPage) + ", " +
+         (is_link ? "link " + std::to_string(State.CurrentLink) + ", " : "") + field + " [" +
          SelectedIn(focus).toStdString() + "]";
 }
 

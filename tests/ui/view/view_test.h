@@ -50,7 +50,7 @@ class ViewTest : public WindowTest {
   /// A page's record as it is stored.
   const std::string& Stored(int page) const { return State.Page(page); }
 
-  /// Where people have been led: "page 2, link 1, Text3 [selected words]".
+  /// Where people have been led: "page 2, Text3 [selected words]", "page 2, link 1, Text5 [selected words]".
   std::string Where();
 };
 

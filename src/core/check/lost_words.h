@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/document/field_part.h"
+
+namespace tavrel {
+
+/// Words of a page's record that belong to no field, as when somebody types a field's own closing tag into
+/// it: neither the editor nor publishing reads them.
+struct LostWords {
+  FieldPart Behind;      ///< the end of the field that they follow; the page if they follow none
+  std::string_view Tag;  ///< that ends the field, such as "</title>"; empty if nothing does
+};
+
+/// In their order. The page's number in them is 0. The tags outlive everything.
+std::vector<LostWords> FindLostWords(std::string_view record);
+
+}  // namespace tavrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QObject>
+
+#include "monkey/record.h"
+
+namespace tavrel {
+class Main;
+class RowList;
+}  // namespace tavrel
+
+namespace tavrel::test {
+
+/// Records where the panels of the View menu lead, by what people saw in a row when they chose it.
+class PanelWatch : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Belongs to the window.
+  PanelWatch(Main& window, tavrel::test::Record& record);
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Watch(RowList& list);
+  void LookAt(const RowList& list, int row);
+  void Record(const Event& event);
+
+  tavrel::test::Record& record_;
+  Event row_{.What = Event::Kind::Led};  ///< the one that is being chosen
+};
+
+}  // namespace tavrel::test
