@@ -4,7 +4,7 @@ BUILD_PACKAGES="g++ cmake ninja-build qt6-base-dev libgtest-dev libgmock-dev lib
 CHECK_PACKAGES="clang libclang-rt-dev clang-format clang-tidy"
 WINDOWS_PACKAGES="cmake ninja-build qt6-base-dev g++-mingw-w64-x86-64-posix googletest nsis xz-utils
                   wine wine64 fonts-wine libjpeg62-turbo libpcre2-16-0"
-WINDOWS_TEST_PACKAGES="fonts-dejavu-core xvfb xauth xdotool imagemagick"
+WINDOWS_TEST_PACKAGES="lld fonts-dejavu-core xvfb xauth xdotool imagemagick"
 WINDOWS_QT_PACKAGES="cmake ninja-build dpkg-dev perl python3 qt6-base-dev qt6-base-dev-tools g++-mingw-w64-x86-64-posix"
 
 need_packages() {

@@ -4,6 +4,7 @@
 #include <iostream>
 #include <vector>
 
+#include "notes/messages.h"
 #include "notes/tasks.h"
 #include "platform/system_platform.h"
 
@@ -14,10 +15,8 @@ int Run(const std::vector<std::filesystem::path>& words) {
   try {
     const auto platform = MakeSystemPlatform();
     return static_cast<int>(Do(ReadArguments(words), *platform));
-  } catch (const UsageError& error) {
-    std::cerr << "tavrel-notes: " << error.what() << " See tavrel-notes --help.\n";
   } catch (const std::exception& error) {
-    std::cerr << "tavrel-notes: " << error.what() << '\n';
+    std::cerr << MessageAbout(error) << '\n';
   }
   return static_cast<int>(Outcome::Failed);
 }

@@ -69,6 +69,8 @@ Arguments ReadArguments(const std::vector<fs::path>& words) {
   }
   if (files.size() != FilesOf(arguments.What))
     throw UsageError(files.size() < FilesOf(arguments.What) ? "Something is missing." : "That is too much.");
+  if (std::any_of(files.begin(), files.end(), [](const fs::path& file) { return file.empty(); }))
+    throw UsageError("A name is empty.");
   if (!files.empty()) arguments.From = files.front();
   if (files.size() > 1) arguments.To = files.back();
   return arguments;

@@ -2,6 +2,8 @@
 
 #include <iostream>
 #include <memory>
+#include <stdexcept>
+#include <system_error>
 #include <vector>
 
 #include "core/check/project_check.h"
@@ -12,6 +14,7 @@
 #include "core/text/numbers.h"
 #include "core/text/run_time_error.h"
 #include "core/text/text_files.h"
+#include "notes/messages.h"
 
 namespace tavrel::notes {
 namespace {
@@ -25,11 +28,6 @@ struct Project {
   DocumentLines Lines;
 };
 
-/// "FILE:LINE: " as other programs write it, so that editors find the place.
-std::string PlaceOf(const fs::path& file, int line) {
-  return PathText(file) + ":" + (line > 0 ? std::to_string(line) + ":" : "") + " ";
-}
-
 std::unique_ptr<Project> Read(const fs::path& file) {
   auto project = std::make_unique<Project>();
   project->File = file;
@@ -38,7 +36,11 @@ std::unique_ptr<Project> Read(const fs::path& file) {
   try {
     ReadDocumentText(text, project->State);
   } catch (const RunTimeError& error) {
-    throw RunTimeError(PlaceOf(file, project->Lines.Damaged) + error.what());
+    // The editor's advice behind the fault is for its own menus.
+    const std::string told = error.what();
+    throw TaskError(
+        MessageAbout(file, project->Lines.Damaged,
+                     told.substr(0, told.find('\n')) + " Restore its backup or repair it in a text editor."));
   }
   return project;
 }
@@ -47,6 +49,8 @@ std::string FieldName(const Finding& finding) {
   switch (finding.Where) {
     case Field::Title:
       return ", title";
+    case Field::Note:
+      return ", note";
     case Field::Text:
       return ", text";
     case Field::LinkText:
@@ -63,10 +67,13 @@ std::string FieldName(const Finding& finding) {
 }
 
 void Tell(const Project& project, const Finding& finding) {
-  const auto page = static_cast<std::size_t>(finding.Page);
-  std::cerr << PlaceOf(project.File, project.Lines.Pages.at(page));
-  if (finding.Page > 0) std::cerr << "page " << FormatPage(finding.Page) << FieldName(finding) << ": ";
-  std::cerr << finding.Sentence << '\n';
+  int line = 0;
+  std::string sentence = finding.Sentence;
+  if (finding.Page > 0) {
+    line = project.Lines.Pages.at(static_cast<std::size_t>(finding.Page));
+    sentence = "page " + FormatPage(finding.Page) + FieldName(finding) + ": " + sentence;
+  }
+  std::cerr << MessageAbout(project.File, line, sentence) << '\n';
 }
 
 Outcome Check(const Arguments& arguments, const Platform& platform) {
@@ -91,31 +98,67 @@ bool CanBePublished(const Project& project, const Arguments& arguments, const Pl
 Outcome Publish(const Arguments& arguments, Platform& platform) {
   const auto project = Read(arguments.From);
   if (!CanBePublished(*project, arguments, platform)) return Outcome::Failed;
-  PublishNotes(project->State, platform, fs::absolute(arguments.To), arguments.Options);
+  PublishNotes(project->State, platform, arguments.To, arguments.Options);
   return Outcome::Done;
 }
 
-Outcome Import(const Arguments& arguments, Platform& platform) {
-  const fs::path folder = fs::absolute(arguments.From);
-  const fs::path file = fs::absolute(arguments.To);
-  if (!arguments.Overwrite && fs::exists(fs::symlink_status(file))) {
-    std::cerr << PlaceOf(file, 0) << "The project is there already. With --overwrite it is replaced.\n";
-    return Outcome::Failed;
-  }
-  if (platform.RefusesName(file.filename())) {
-    std::cerr << PlaceOf(file, 0) << "No file can have this name.\n";
-    return Outcome::Failed;
-  }
-  if (!fs::is_directory(folder)) {
-    std::cerr << PlaceOf(folder, 0) << "This is not a folder.\n";
-    return Outcome::Failed;
-  }
+/// Whether anything has this name, be it a link that leads nowhere.
+bool IsThere(const fs::path& file) {
+  std::error_code error;
+  const fs::file_status status = fs::symlink_status(file, error);
+  if (status.type() == fs::file_type::none) throw FileError(file, "could not be looked for", error);
+  return fs::exists(status);
+}
+
+void RequirePlaceFor(const fs::path& file, bool overwrite, const Platform& platform) {
+  if (!overwrite && IsThere(file))
+    throw TaskError(MessageAbout(file, 0, "The project is there already. With --overwrite it is replaced."));
+  if (platform.RefusesName(file.filename()))
+    throw TaskError(MessageAbout(file, 0, "No file can have this name."));
+}
+
+/// The folder's notes, in the order in which they become pages.
+std::vector<fs::path> NotesIn(const fs::path& folder, const Platform& platform) {
+  if (const std::error_code error = platform.WhyNotReadable(folder))
+    throw FileError(folder, "could not be read", error);
   std::vector<fs::path> notes;
   for (const FolderFile& note : ListFiles(folder, ".txt", platform.SystemCodePage()))
     notes.push_back(note.Name);
+  return notes;
+}
+
+/// Whether a project's file has room for all that was imported. Says what would be lost.
+bool IsAllStored(const Global& global, const fs::path& folder, const std::vector<fs::path>& notes) {
+  bool is_all = true;
+  const auto tell = [&](const fs::path& file, const std::string& sentence) {
+    std::cerr << MessageAbout(file, 0, sentence) << '\n';
+    is_all = false;
+  };
+  if (!global.Page(kLastRecord).empty())
+    tell(folder / notes.back(), "A project stores " + std::to_string(kLastPage) +
+                                    " pages, so this note would be lost. Move some of them to another "
+                                    "folder and import again.");
+  if (!global.MusicLink(kLastMusicLink).empty())
+    tell(folder, "A project stores " + std::to_string(kLastMusicLink - 1) +
+                     " music links, so a piece of music would be lost. Move some of the notes to another "
+                     "folder and import again.");
+  return is_all;
+}
+
+Outcome Import(const Arguments& arguments, Platform& platform) {
+  RequirePlaceFor(arguments.To, arguments.Overwrite, platform);
+  const std::vector<fs::path> notes = NotesIn(arguments.From, platform);
   const auto global = std::make_unique<Global>();
-  ImportNotes(*global, folder, notes, platform.SystemCodePage(), [](int) {});
-  platform.WriteWholeFile(file, DocumentText(*global));
+  ImportNotes(*global, arguments.From, notes, platform.SystemCodePage(), [](int) {});
+  if (!IsAllStored(*global, arguments.From, notes)) return Outcome::Failed;
+  platform.WriteWholeFile(arguments.To, DocumentText(*global));
+  return Outcome::Done;
+}
+
+/// Gives the answer that was asked for.
+Outcome Answer(const std::string& text) {
+  std::cout << text << std::flush;
+  if (!std::cout) throw std::runtime_error("The standard output could not be written.");
   return Outcome::Done;
 }
 
@@ -124,11 +167,9 @@ Outcome Import(const Arguments& arguments, Platform& platform) {
 Outcome Do(const Arguments& arguments, Platform& platform) {
   switch (arguments.What) {
     case Arguments::Task::Help:
-      std::cout << HelpText();
-      return Outcome::Done;
+      return Answer(HelpText());
     case Arguments::Task::Version:
-      std::cout << "tavrel-notes " << VersionNumber() << '\n';
-      return Outcome::Done;
+      return Answer("tavrel-notes " + VersionNumber() + "\n");
     case Arguments::Task::Publish:
       return Publish(arguments, platform);
     case Arguments::Task::Import:

@@ -84,6 +84,9 @@ class Model {
   std::string DraftText(const std::string& typed_page) const;
   const std::string& Document() const { return doc_; }
 
+  /// Another number each time that a page is shown.
+  int Showing() const { return showing_; }
+
   std::string Focus;
   int LinkRow = 0;  ///< the selected row of the links grid when a command begins
   bool IsShown = false;

@@ -126,9 +126,10 @@ void Monkey::CloseDocument() {
 }
 
 void Monkey::NoteCaretField() {
+  if (std::exchange(showing_, model_->Showing()) != model_->Showing()) caret_field_ = "Text1";
   const std::vector<std::string>& fields = Screen::FieldNames();
-  if (std::find(fields.begin(), fields.end(), screen_->Focus()) != fields.end())
-    caret_field_ = screen_->Focus();
+  const std::string focus = screen_->Focus();
+  if (std::find(fields.begin(), fields.end(), focus) != fields.end()) caret_field_ = focus;
 }
 
 void Monkey::BeginAct() {

@@ -140,7 +140,8 @@ class Monkey {
   std::string focus_;         ///< before the action
   bool moves_focus_ = false;  ///< whether a click takes the focus away before a command begins
   bool enter_ = false;
-  std::string caret_field_;    ///< the one that had the focus last
+  std::string caret_field_;    ///< the one that had the focus last since the page was shown
+  int showing_ = 0;            ///< of the page
   LiteralPlace place_left_;    ///< of the caret before the action, if its field is left by a click
   std::string field_to_undo_;  ///< whose own undo would have been next before the action
   std::string field_to_redo_;

@@ -67,7 +67,8 @@ LiteralPlace Screen::PlaceIn(const std::string& field) const {
   }
   LiteralPlace place{
       .Row = Links.Row(), .Field = field, .Anchor = line->cursorPosition(), .Caret = line->cursorPosition()};
-  if (line->hasSelectedText()) {
+  // The toolkit may leave a selection from -1 on.
+  if (line->hasSelectedText() && line->selectionStart() >= 0) {
     const bool backwards = line->selectionStart() == place.Caret;
     place.Anchor = backwards ? line->selectionEnd() : line->selectionStart();
   }

@@ -16,10 +16,9 @@ using namespace std::string_literals;
 void Monkey::ActInPlanner() {
   QWidget* planner = OpenPlanner();
   Note("act in the planner");
-  if (stage_->Window().isActiveWindow()) {
-    Activate(*planner);
-    model_->LeaveField(focus_);
-  }
+  const bool is_left = stage_->Window().isActiveWindow();
+  if (!planner->isActiveWindow()) Activate(*planner);
+  if (is_left) model_->LeaveField(focus_);
   for (int left = dice_.Between(1, 4); left > 0 && planner->isVisible() && !stage_->Seen.IsOver; --left) {
     player_.Poke(*planner);
     if (stage_->Seen.Last(Event::Kind::Pressed, "Planner") != nullptr) break;

@@ -1,59 +1,12 @@
-#include <QProcess>
-#include <QStringList>
+#include "process/notes_program.h"
 
 #include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
-
-#include "process/process_test.h"
-#include "support/temporary_folder.h"
-
-// The companion for the command line, run as people and scripts run it.
+#include <vector>
 
 namespace tavrel::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Two linked pages; page 2 stands in line 4.
-const std::string kSound =
-    " 1 ,<song>Blue</song>\r\n"
-    "\r\n"
-    " 1 ,<title>Start</title><text>See <Part two>.</text><link><linktext>Part "
-    "two</linktext><linkto>002</linkto>"
-    "</link>\r\n"
-    " 2 "
-    ",<title>Two</title><text>one<p>two</text><link><linktext>Back</linktext><linkto>001</linkto></link>\r\n";
-
-class NotesProgram : public testing::Test {
- protected:
-  void SetUp() override { folder_.Write("Tour.dat", kSound); }
-
-  /// Runs the program in the folder.
-  void Run(const QStringList& words) {
-    QProcess process;
-    process.setWorkingDirectory(QString::fromStdString(folder_.Path().string()));
-    process.start(TAVREL_NOTES, words);
-    ASSERT_TRUE(process.waitForFinished(kPatience)) << "the program does not end";
-    ASSERT_EQ(process.exitStatus(), QProcess::NormalExit);
-    status_ = process.exitCode();
-    said_ = process.readAllStandardOutput().toStdString();
-    told_ = process.readAllStandardError().toStdString();
-    std::erase(said_, '\r');
-    std::erase(told_, '\r');
-  }
-
-  /// Writes a project of these pages, from line 2 on, and checks it.
-  void Check(const std::string& pages) {
-    folder_.Write("Checked.dat", "\r\n" + pages);
-    Run({"check", "Checked.dat"});
-  }
-
-  TemporaryFolder folder_;
-  int status_ = -1;
-  std::string said_;  ///< on the standard output
-  std::string told_;  ///< on the standard error
-};
 
 TEST_F(NotesProgram, HelpNamesEveryCommandAndOption) {
   Run({"--help"});
@@ -65,9 +18,17 @@ TEST_F(NotesProgram, HelpNamesEveryCommandAndOption) {
   }
 }
 
+TEST_F(NotesProgram, TellsItsVersion) {
+  Run({"--version"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(said_, "tavrel-notes 1.2.1\n");
+  EXPECT_EQ(told_, "");
+}
+
 TEST_F(NotesProgram, AnythingItDoesNotUnderstandIsToldAndNothingIsDone) {
   const std::vector<QStringList> misunderstood = {{},
                                                   {"pubish", "Tour.dat", "notes"},
+                                                  {"pub\nish", "Tour.dat", "notes"},
                                                   {"publish", "Tour.dat"},
                                                   {"publish", "Tour.dat", "notes", "more"},
                                                   {"publish", "--overwrite", "Tour.dat", "notes"},
@@ -75,11 +36,24 @@ TEST_F(NotesProgram, AnythingItDoesNotUnderstandIsToldAndNothingIsDone) {
                                                   {"check"}};
   for (const QStringList& words : misunderstood) {
     Run(words);
-    EXPECT_EQ(status_, 2) << words.join(' ').toStdString();
-    EXPECT_EQ(said_, "");
-    EXPECT_NE(told_.find("See tavrel-notes --help."), std::string::npos);
+    ExpectRefusalBeginning("tavrel-notes: ");
+    EXPECT_NE(told_.find("See tavrel-notes --help."), std::string::npos) << words.join(' ').toStdString();
   }
   EXPECT_FALSE(fs::exists(folder_.Path() / "notes"));
+}
+
+TEST_F(NotesProgram, AnEmptyNameIsNone) {
+  const std::vector<QStringList> empty = {{"check", ""},
+                                          {"publish", "", "notes"},
+                                          {"publish", "Tour.dat", ""},
+                                          {"import", "", "New.dat"},
+                                          {"import", ".", ""}};
+  const auto files = folder_.Files();
+  for (const QStringList& words : empty) {
+    Run(words);
+    ExpectRefusal("tavrel-notes: A name is empty. See tavrel-notes --help.");
+  }
+  EXPECT_EQ(folder_.Files(), files);
 }
 
 TEST_F(NotesProgram, PublishesAsTheDialogDoesWithNothingChanged) {
@@ -104,60 +78,61 @@ TEST_F(NotesProgram, PublishesWithTheTickBoxesTheOtherWay) {
             "<a href=\"z001.txt\">Back</a>\r\n<a href=\"\\\">Notes menu</a>\r\n");
 }
 
+TEST_F(NotesProgram, AFolderToPublishIntoThatIsAFileIsToldAndStaysAFile) {
+  folder_.Write("taken", "a file");
+  Run({"publish", "Tour.dat", "taken"});
+  ExpectRefusalBeginning("taken: Could not be made: ");
+  EXPECT_EQ(folder_.Read("taken"), "a file");
+}
+
+TEST_F(NotesProgram, AFolderWhoseParentIsMissingIsTold) {
+  Run({"publish", "Tour.dat", "none/notes"});
+  ExpectRefusal(
+      "none/notes: Could not be made: No such file or directory. Look whether the file or its folder was "
+      "moved or renamed.");
+}
+
 TEST_F(NotesProgram, AnImpossibleMusicLinkIsToldWithItsLineBeforeAnythingIsWritten) {
   folder_.Write(
       "Bad.dat",
       "\r\n 1 ,<title>A</title>\r\n 2 ,<title>B</title><link><linktext>x</linktext><linkto>M101</linkto>"
       "</link>\r\n");
   Run({"publish", "Bad.dat", "notes"});
-  EXPECT_EQ(status_, 2);
-  EXPECT_EQ(
-      told_,
-      "Bad.dat:3: page 002, target of link 1: There can be no music link \"M101\". Publishing stops here.\n");
+  ExpectRefusal(
+      "Bad.dat:3: page 002, target of link 1: There can be no music link \"M101\". Publishing stops here.");
   EXPECT_FALSE(fs::exists(folder_.Path() / "notes"));
 }
 
 TEST_F(NotesProgram, ADamagedProjectIsToldWithItsLine) {
   folder_.Write("Bad.dat", " 1 ,<song>S</song>\r\n 101 ,x\r\n\r\n");
+  const std::string line =
+      "Bad.dat:2: The document is damaged: it has an entry numbered \"101\", but only 0 to 100 exist. "
+      "Restore its backup or repair it in a text editor.";
   Run({"publish", "Bad.dat", "notes"});
-  EXPECT_EQ(status_, 2);
-  EXPECT_EQ(told_.find("tavrel-notes: Bad.dat:2: The document is damaged"), 0U) << told_;
+  ExpectRefusal(line);
+  Run({"check", "Bad.dat"});
+  ExpectRefusal(line);
+}
+
+TEST_F(NotesProgram, AProjectWithoutAnyLineIsToldWithoutOne) {
+  folder_.Write("Empty.dat", "");
+  Run({"check", "Empty.dat"});
+  ExpectRefusal(
+      "Empty.dat: The document is damaged: it ends before its pages. Restore its backup or repair it in a "
+      "text editor.");
 }
 
 TEST_F(NotesProgram, AMissingProjectIsTold) {
   Run({"check", "None.dat"});
-  EXPECT_EQ(status_, 2);
-  EXPECT_EQ(told_.find("tavrel-notes: None.dat\ncould not be read"), 0U) << told_;
+  ExpectRefusal(
+      "None.dat: Could not be read: No such file or directory. Look whether the file or its folder was moved "
+      "or renamed.");
 }
 
-TEST_F(NotesProgram, ImportsWhatItHasPublished) {
-  Run({"publish", "Tour.dat", "notes"});
-  Run({"import", "notes", "Back.dat"});
-  EXPECT_EQ(status_, 0) << told_;
-  const std::string second =
-      "<title>Two</title><text> <p><p><meta name=\"NowPlaying\" content=\"false\"><p>one<p>two<p>Back<p> "
-      "</text>"
-      "<link><linktext></linktext><linkto>001</linkto></link>\r\n";
-  EXPECT_NE(folder_.Read("Back.dat").find(" 2 ," + second), std::string::npos) << folder_.Read("Back.dat");
-}
-
-TEST_F(NotesProgram, AProjectIsOverwrittenOnlyWhenTold) {
-  folder_.Write("notes/a.txt", "<title>A</title>\r\n");
-  Run({"import", "notes", "Tour.dat"});
-  EXPECT_EQ(status_, 2);
-  EXPECT_NE(told_.find("--overwrite"), std::string::npos);
-  EXPECT_EQ(folder_.Read("Tour.dat"), kSound);
-  Run({"import", "--overwrite", "notes", "Tour.dat"});
-  EXPECT_EQ(status_, 0) << told_;
-  EXPECT_NE(folder_.Read("Tour.dat"), kSound);
-}
-
-TEST_F(NotesProgram, ANoteThatCannotBeImportedLeavesNoProject) {
-  folder_.Write("notes/a.txt", "<a href=\"z001.txt>no end");
-  Run({"import", "notes", "New.dat"});
-  EXPECT_EQ(status_, 2);
-  EXPECT_NE(told_.find("a.txt"), std::string::npos);
-  EXPECT_FALSE(fs::exists(folder_.Path() / "New.dat"));
+TEST_F(NotesProgram, AFolderIsNoProject) {
+  fs::create_directory(folder_.Path() / "Folder.dat");
+  Run({"check", "Folder.dat"});
+  ExpectRefusalBeginning("Folder.dat: Could not be read: ");
 }
 
 TEST_F(NotesProgram, ASoundProjectIsSilent) {
@@ -177,8 +152,27 @@ TEST_F(NotesProgram, WhatWouldGoWrongIsToldWithFileLinePageAndField) {
             "Checked.dat:3: page 003: No links lead here from page 001.\n");
 }
 
+TEST_F(NotesProgram, APrivateNoteIsNamedAsOne) {
+  Check(" 1 ,<title>A</title><note>x <title> y</note><text>t</text>\r\n");
+  EXPECT_EQ(status_, 1);
+  EXPECT_TRUE(told_.starts_with("Checked.dat:2: page 001, note: ")) << told_;
+}
+
+TEST_F(NotesProgram, WhatBelongsToTheWholeProjectHasNoLine) {
+  folder_.Write("Hundred.dat", " 100 ,<song>S</song>\r\n\r\n 0 ,<text>x</text>\r\n 1 ,<title>A</title>\r\n");
+  Run({"check", "Hundred.dat"});
+  EXPECT_EQ(status_, 1);
+  EXPECT_EQ(told_, "Hundred.dat: Music link M100 is not stored in the project's file.\n");
+}
+
+TEST_F(NotesProgram, APageThatHasNoLineIsToldWithoutOne) {
+  Check(" 2 ,<title>A</title>\r\n");
+  EXPECT_EQ(status_, 1);
+  EXPECT_EQ(told_, "Checked.dat: page 001: The page is empty, so no page is reached from it.\n");
+}
+
 TEST_F(NotesProgram, NamesBehindTwoDashesMayBeginWithADash) {
-  folder_.Write("-odd.dat", kSound);
+  folder_.Write("-odd.dat", kTwoPages);
   Run({"check", "--", "-odd.dat"});
   EXPECT_EQ(status_, 0) << told_;
 }

@@ -1,6 +1,7 @@
 #include "core/ipod/anchor_cutter.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/text/characters.h"
 #include "core/text/run_time_error.h"
@@ -19,6 +20,7 @@ constexpr std::string_view kAnchorClosing = "</a>";
 
 std::optional<std::string> AnchorCutter::CutNext() {
   if (!PassThroughOpening()) return std::nullopt;
+  opening_ = PlaceOfLastPassed();
   passed_.resize(passed_.size() - kAnchorOpening.size());
   std::string target = TakeTarget();
   CutClosing();
@@ -60,16 +62,34 @@ void AnchorCutter::CutClosing() {
     if (bracket == kNotFound)
       throw RunTimeError("A link has no </a> at its end.\nCorrect it in a text editor and import again.");
     const std::string_view part = note_.substr(at_, bracket + 1 - at_);
-    at_ = bracket + 1;
     if (ahead_.empty() && part.ends_with(kAnchorClosing) && part.find(kAnchorOpening.back()) == kNotFound) {
       // No anchor begins within this one: its text need not be looked at again.
       passed_ += part.substr(0, part.size() - kAnchorClosing.size());
+      at_ = bracket + 1;
       return;
     }
-    ahead_ += part;
+    ReadAhead(part);
     if (std::string_view(ahead_).substr(ahead_at_).ends_with(kAnchorClosing)) break;
   }
   ahead_.resize(ahead_.size() - kAnchorClosing.size());
+}
+
+/// Goes on to the end of a part of the note, which is passed later.
+void AnchorCutter::ReadAhead(std::string_view part) {
+  while (!origins_.empty() && origins_.back().first >= ahead_.size()) origins_.pop_back();
+  origins_.emplace_back(ahead_.size(), at_);
+  ahead_ += part;
+  at_ += part.size();
+}
+
+/// The place in the note of the byte that was passed last.
+std::size_t AnchorCutter::PlaceOfLastPassed() const {
+  if (ahead_.empty()) return at_ - 1;
+  const std::size_t last = ahead_at_ - 1;
+  const auto behind = std::upper_bound(origins_.begin(), origins_.end(), last,
+                                       [](std::size_t at, const auto& part) { return at < part.first; });
+  const auto& [in_ahead, in_note] = *std::prev(behind);
+  return in_note + last - in_ahead;
 }
 
 /// Passes everything through the next `last`; all of it, and false, if there is none.
@@ -82,6 +102,7 @@ bool AnchorCutter::PassThrough(char last) {
   }
   passed_.append(ahead_, ahead_at_);
   ahead_.clear();
+  origins_.clear();
   ahead_at_ = 0;
 
   const std::size_t in_note = note_.find(last, at_);

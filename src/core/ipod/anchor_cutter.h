@@ -3,6 +3,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tavrel {
 
@@ -17,6 +19,9 @@ class AnchorCutter {
   /// Throws RunTimeError if the anchor has no closing quote or no "</a>".
   std::optional<std::string> CutNext();
 
+  /// Where in the note the opening of the anchor ends that was looked at last.
+  std::size_t Opening() const { return opening_; }
+
   /// The note without its anchors.
   std::string& Text() { return passed_; }
 
@@ -26,6 +31,8 @@ class AnchorCutter {
   std::string TakeTargetOfNote();
   void CutClosing();
   bool PassThrough(char last);
+  void ReadAhead(std::string_view part);
+  std::size_t PlaceOfLastPassed() const;
   std::optional<char> Take();
 
   std::string_view note_;
@@ -33,6 +40,9 @@ class AnchorCutter {
   std::string passed_;        ///< the text in front of the next anchor
   std::string ahead_;         ///< what was read on the way to a "</a>" and comes after `passed_`
   std::size_t ahead_at_ = 0;  ///< how much of it has been passed
+  std::vector<std::pair<std::size_t, std::size_t>>
+      origins_;  ///< where its parts begin, in it and in the note
+  std::size_t opening_ = 0;
 };
 
 }  // namespace tavrel

@@ -6,6 +6,7 @@
 
 #include "core/document/markup.h"
 #include "core/ipod/anchor_cutter.h"
+#include "core/ipod/note_markup.h"
 #include "core/text/characters.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
@@ -36,55 +37,6 @@ class NextByte {
   std::size_t place_;
 };
 
-void ReplaceAll(std::string& text, std::string_view wanted, std::string_view replacement) {
-  std::size_t found = text.find(wanted);
-  if (found == kNotFound) return;
-  std::string result;
-  std::size_t at = 0;
-  for (; found != kNotFound; found = text.find(wanted, at)) {
-    result.append(text, at, found - at).append(replacement);
-    at = found + wanted.size();
-  }
-  text = result.append(text, at);
-}
-
-/// Cuts the title element out of a note and gives it; nothing if there is none.
-std::string CutTitle(std::string& note) {
-  constexpr std::string_view kOpening = "<title>";
-  constexpr std::string_view kClosing = "</title>";
-  const std::size_t opening = note.find(kOpening);
-  const std::size_t closing = note.find(kClosing);
-  if (opening == kNotFound || closing == kNotFound || closing < opening) return {};
-  const std::size_t length = closing + kClosing.size() - opening;
-  std::string title = note.substr(opening, length);
-  note.erase(opening, length);
-  return title;
-}
-
-void CutMeta(std::string& note) {
-  const std::size_t opening = note.find("<meta ");
-  if (opening == kNotFound) return;
-  const std::size_t end = note.find('>', opening);
-  if (end != kNotFound) note.erase(opening, end + 1 - opening);
-}
-
-/// Whether a text holds anything that looks like the markup to convert; anchors do not.
-bool MayHoldMarkup(std::string_view note) {
-  for (std::size_t at = note.find('<'); at != kNotFound; at = note.find('<', at + 1)) {
-    std::string_view name = note.substr(at + 1);
-    if (name.starts_with('/')) name.remove_prefix(1);
-    if (name.starts_with('b') || name.starts_with('p')) return true;
-  }
-  return false;
-}
-
-void ConvertMarkup(std::string& note) {
-  if (!MayHoldMarkup(note)) return;
-  ReplaceAll(note, "<br>", kLineEnd);
-  ReplaceAll(note, "<p>", kLineEnd);
-  for (const char* tag : {"</p>", "<body>", "</body>"}) ReplaceAll(note, tag, "");
-}
-
 bool IsMusicAddress(std::string_view target) {
   return target.starts_with("ipod:") || target.starts_with("song=");
 }
@@ -96,8 +48,15 @@ std::string ValueOf(std::string_view address, std::string_view key) {
   if (found == kNotFound) return {};
   const std::size_t start = found + key.size();
   std::string value(address.substr(start, address.find('&', start) - start));
-  ReplaceAll(value, kLineEnd, " ");
+  Replacements ignored;
+  ReplaceAll(value, kLineEnd, " ", ignored);
   return value;
+}
+
+/// The line of a note, from 1, that a byte stands in.
+int LineAt(std::string_view note, std::size_t place) {
+  const std::string_view in_front = note.substr(0, place);
+  return 1 + static_cast<int>(std::count(in_front.begin(), in_front.end(), '\n'));
 }
 
 std::string MusicRecord(std::string_view address) {
@@ -118,6 +77,12 @@ std::string MusicRecord(std::string_view address) {
 
 }  // namespace
 
+NoteError::NoteError(const fs::path& note, int line, const std::string& fault)
+    : RunTimeError(PathText(note) + "\ncould not be imported: " + fault),
+      Note(note),
+      Line(line),
+      Fault(fault) {}
+
 NoteReader::NoteReader(Global& global, const std::vector<std::string>& names, const CodePage& code_page)
     : global_(global), code_page_(code_page) {
   int page = 0;
@@ -125,6 +90,7 @@ NoteReader::NoteReader(Global& global, const std::vector<std::string>& names, co
 }
 
 void NoteReader::ProcessInput(std::string_view note, int page) {
+  line_ = 0;
   if (page > kLastRecord)
     throw RunTimeError(
         "The folder holds more notes than a project has pages.\n"
@@ -132,21 +98,35 @@ void NoteReader::ProcessInput(std::string_view note, int page) {
   std::string content;
   content.reserve(note.size() + 2);
   content.append(" ").append(note).append(" ");
-  std::string record = CutTitle(content);
-  ConvertMarkup(content);
-  CutMeta(content);
+  Replacements replacements;
+  replacements.Add(0, 0, 1);
+  std::string record = CutTitle(content, replacements);
+  ConvertMarkup(content, replacements);
+  CutMeta(content, replacements);
 
-  std::string links;
   AnchorCutter anchors(content);
-  while (const std::optional<std::string> target = anchors.CutNext()) {
-    links.append("<linktext></linktext>");
-    AppendTag(links, "<linkto>", IsMusicAddress(*target) ? ProcessMusic(*target) : ProcessLink(*target));
+  std::string links;
+  try {
+    links = ProcessAnchors(anchors);
+  } catch (const RunTimeError&) {
+    line_ = LineAt(note, replacements.Undone(anchors.Opening()));
+    throw;
   }
   constexpr std::size_t kTags = 32;
   record.reserve(record.size() + anchors.Text().size() + links.size() + kTags);
   AppendTag(record, "<text>", anchors.Text());
   AppendTag(record, "<link>", links);
   global_.Page(page) = std::move(record);
+}
+
+/// Takes all anchors out of a note and gives the links that become of them.
+std::string NoteReader::ProcessAnchors(AnchorCutter& anchors) {
+  std::string links;
+  while (const std::optional<std::string> target = anchors.CutNext()) {
+    links.append("<linktext></linktext>");
+    AppendTag(links, "<linkto>", IsMusicAddress(*target) ? ProcessMusic(*target) : ProcessLink(*target));
+  }
+  return links;
 }
 
 std::string NoteReader::ProcessLink(const std::string& target) const {
@@ -197,7 +177,7 @@ void ImportNotes(Global& global, const fs::path& folder, const std::vector<fs::p
     try {
       reader.ProcessInput(lines, ++page);
     } catch (const RunTimeError& error) {
-      throw RunTimeError(PathText(folder / note) + "\ncould not be imported: " + error.what());
+      throw NoteError(folder / note, reader.Line(), error.what());
     }
     progress(page);
   }

@@ -45,7 +45,8 @@ int LineField::Number() const {
 }
 
 int LineField::Anchor() const {
-  if (!hasSelectedText()) return cursorPosition();
+  // The toolkit's own undo may leave a selection from -1 on.
+  if (!hasSelectedText() || selectionStart() < 0) return cursorPosition();
   return selectionStart() == cursorPosition() ? selectionEnd() : selectionStart();
 }
 

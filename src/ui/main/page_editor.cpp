@@ -36,6 +36,7 @@ void PageEditor::ShowFields(const PageFields& fields) {
   ui_.Text3->SetBytes(fields.Title);
   ui_.Text4->SetBytes(fields.Note);
   ui_.Text6->SetBytes(fields.MusicText);
+  last_field_ = ui_.Text1;
 }
 
 void PageEditor::ShowMusicLink(const PageFields& fields) {
@@ -92,7 +93,7 @@ Place PageEditor::PlaceOf(const FieldPart& part) const {
 
 std::size_t PageEditor::BlanksBefore(Field field) const {
   const std::string bytes = FieldOf(&ControlOf(field))->Bytes();
-  return static_cast<std::size_t>(TrimBlanks(bytes).data() - bytes.data());
+  return std::min(bytes.find_first_not_of(' '), bytes.size());
 }
 
 void PageEditor::Select(const FieldPart& part) {

@@ -36,7 +36,8 @@ class PageEditor : public QObject {
   /// Renews the music links in both lists; the pages in the first stay as they were listed.
   void RefreshMusicTargets();
 
-  /// Where the caret is: in the field that has the focus, or else in the one that had it last.
+  /// Where the caret is: in the field that has the focus, or else in the one that had it last since the page
+  /// was shown, or else in the body.
   Place CaretPlace(const QWidget* control_with_focus) const;
   /// Gives the focus to the field of a place.
   void FocusOn(const Place& place);
