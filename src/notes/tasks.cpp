@@ -84,13 +84,15 @@ Outcome Check(const Arguments& arguments, const Platform& platform) {
   return findings.empty() ? Outcome::Done : Outcome::Found;
 }
 
-/// Publishing would stop half-way at the links that it cannot write.
+/// Publishing would stop half-way at the links that it cannot write. More notes than an iPod shows are told,
+/// and published.
 bool CanBePublished(const Project& project, const Arguments& arguments, const Platform& platform) {
   bool can_be = true;
-  for (const Finding& finding : CheckProject(project.State, platform.SystemCodePage(), arguments.Options)) {
-    if (!finding.StopsPublishing) continue;
-    Tell(project, finding);
-    can_be = false;
+  const CodePage& code_page = platform.SystemCodePage();
+  const int others = OtherNotes(project.State, arguments.To, code_page);
+  for (const Finding& finding : CheckProject(project.State, code_page, arguments.Options, others)) {
+    if (finding.StopsPublishing || finding.TooManyNotes) Tell(project, finding);
+    can_be = can_be && !finding.StopsPublishing;
   }
   return can_be;
 }

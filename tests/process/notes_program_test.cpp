@@ -78,6 +78,19 @@ TEST_F(NotesProgram, PublishesWithTheTickBoxesTheOtherWay) {
             "<a href=\"z001.txt\">Back</a>\r\n<a href=\"\\\">Notes menu</a>\r\n");
 }
 
+TEST_F(NotesProgram, MoreNotesThanAnIpodShowsAreToldAndPublished) {
+  for (int note = 1; note <= 998; ++note) folder_.Write("notes/other" + std::to_string(note) + ".txt", "x");
+  folder_.Write("notes/z002.txt", "replaced");
+  folder_.Write("notes/picture.jpg", "no note");
+  Run({"publish", "Tour.dat", "notes"});
+  EXPECT_EQ(told_, "");
+  folder_.Write("notes/one more.txt", "x");
+  Run({"publish", "Tour.dat", "notes"});
+  EXPECT_EQ(status_, 0);
+  EXPECT_EQ(told_, "Tour.dat: There would be 1001 notes. An iPod shows 1,000.\n");
+  EXPECT_TRUE(folder_.Read("notes/z002.txt").starts_with("<title>Two</title>"));
+}
+
 TEST_F(NotesProgram, AFolderToPublishIntoThatIsAFileIsToldAndStaysAFile) {
   folder_.Write("taken", "a file");
   Run({"publish", "Tour.dat", "taken"});

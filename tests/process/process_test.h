@@ -10,10 +10,10 @@
 
 namespace tavrel::test {
 
-/// Runs the program as a process, with a user inside it who plays commands. Its folder is in a home of its
-/// own, or, where the system does not let the environment say where documents are, beside a portable copy of
 inline constexpr int kPatience = 60'000;  ///< milliseconds for a program to end
 
+/// Runs the program as a process, with a user inside it who plays commands. Its folder is in a home of its
+/// own, or, where the system does not let the environment say where documents are, beside a portable copy of
 /// it.
 class ProcessTest : public testing::Test {
  protected:

@@ -12,6 +12,7 @@ struct Finding : FieldPart {
   bool StopsPublishing = false;
   bool CutsNote = false;      ///< an iPod does not show all of the note
   bool LeadsNowhere = false;  ///< a link that is published has no page behind it
+  bool TooManyNotes = false;  ///< an iPod does not show all notes
 };
 
 }  // namespace tavrel

@@ -8,6 +8,7 @@
 #include "core/check/link_target.h"
 #include "core/check/lost_words.h"
 #include "core/document/page_parts.h"
+#include "core/document/page_record.h"
 #include "core/document/spoiling_tags.h"
 #include "core/ipod/note_writer.h"
 #include "core/text/file_names.h"
@@ -174,6 +175,9 @@ void PageCheck::CheckInlineLink(std::size_t index) {
 }
 
 void PageCheck::CheckLinks() {
+  if (parts_.Links.size() > static_cast<std::size_t>(kLastLink))
+    Add(Field::Page, "The page has " + std::to_string(parts_.Links.size()) +
+                         " links. The editor keeps 49 when the page is stored.");
   for (std::size_t link = 0; link < parts_.Links.size(); ++link) {
     const int row = static_cast<int>(link) + 1;
     const PageParts::Link& parts = parts_.Links[link];

@@ -36,7 +36,8 @@ void CheckLength(const Global& global, int page, const PageParts& parts, const P
 void CheckNumberOfNotes(std::size_t notes, std::vector<Finding>& findings) {
   if (notes > static_cast<std::size_t>(kMostNotes))
     Add(findings, 0, Field::Project,
-        "There would be " + std::to_string(notes) + " notes. An iPod shows 1,000.");
+        "There would be " + std::to_string(notes) + " notes. An iPod shows 1,000.")
+        .TooManyNotes = true;
 }
 
 void CheckUnstored(const Global& global, std::vector<Finding>& findings) {

@@ -16,7 +16,7 @@ namespace tavrel {
 /// written: only pages that have changed are read again, or all if pages came or went, or music changed.
 class ProjectCheck {
  public:
-  /// The findings, page by page. `other_notes` are on the iPod already.
+  /// The findings, page by page. `other_notes` will stand beside those of the project.
   std::vector<Finding> Run(const Global& global, const CodePage& code_page, const PublishOptions& options,
                            int other_notes = 0);
 

@@ -1,12 +1,15 @@
 #include "core/ipod/note_writer.h"
 
+#include <algorithm>
 #include <array>
+#include <set>
 #include <system_error>
 #include <utility>
 
 #include "core/document/markup.h"
 #include "core/document/page_parts.h"
 #include "core/ipod/folder_store.h"
+#include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
@@ -137,6 +140,16 @@ std::string NoteText(const Global& global, int page, const PageParts& parts, con
     note.append(kLineEnd);
   }
   return note;
+}
+
+int OtherNotes(const Global& global, const fs::path& folder, const CodePage& code_page) {
+  std::set<fs::path> rewritten;
+  for (int page = 1; page <= kLastPage; ++page) {
+    if (!global.Page(page).empty()) rewritten.insert(NoteName(page));
+  }
+  const std::vector<FolderFile> notes = ListFiles(folder, ".txt", code_page);
+  return static_cast<int>(std::count_if(
+      notes.begin(), notes.end(), [&](const FolderFile& note) { return !rewritten.contains(note.Name); }));
 }
 
 void PublishNotes(const Global& global, Platform& platform, const fs::path& folder,

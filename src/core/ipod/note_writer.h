@@ -38,6 +38,9 @@ std::string NoteText(const Global& global, int page, const PublishOptions& optio
 /// The same of a page that has been taken apart.
 std::string NoteText(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
 
+/// How many notes of a folder no page rewrites. An iPod shows them beside those of the pages.
+int OtherNotes(const Global& global, const std::filesystem::path& folder, const CodePage& code_page);
+
 /// Writes one note file for each page that is not empty into the folder, which is made if need be. Files that
 /// no page rewrites stay; a link in a note's place is replaced. Throws FileError, and RunTimeError for an
 /// impossible music link.

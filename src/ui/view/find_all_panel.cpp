@@ -3,6 +3,9 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
+#include <iterator>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "ui/controls/program_control.h"
@@ -14,6 +17,8 @@ namespace tavrel {
 namespace {
 
 constexpr qint64 kSlice = 8;  // milliseconds of searching between looks at the keyboard
+constexpr int kFrame = 20;    // milliseconds in which the first hits come to the screen
+constexpr int kInView = 100;  // rows; more do not fit
 
 }  // namespace
 
@@ -30,8 +35,9 @@ FindAllPanel::FindAllPanel(App& app, QWidget* parent)
   ui_->Hits->setItemDelegateForColumn(HitModel::kContextColumn, new HitDelegate(ui_->Hits));
   timer_->setObjectName("SearchTimer");
   On(app_.Control, timer_, &QTimer::timeout, this, [this] { GoOn(); });
-  connect(ui_->FindWhat, &QLineEdit::textChanged, this, [this] { Restart(); });
-  connect(ui_->MatchCase, &QAbstractButton::toggled, this, [this] { Restart(); });
+  connect(ui_->FindWhat, &LineField::CharactersReplaced, this, &FindAllPanel::CharactersReplaced);
+  connect(ui_->FindWhat, &QLineEdit::textChanged, this, [this] { Renew(); });
+  connect(ui_->MatchCase, &QAbstractButton::toggled, this, [this] { Renew(); });
   connect(ui_->FindWhat, &QLineEdit::returnPressed, this, [this] {
     if (model_->Count() > 0) emit Chosen(model_->At(qMax(ui_->Hits->Row(), 0)));
   });
@@ -43,7 +49,7 @@ FindAllPanel::~FindAllPanel() = default;
 
 void FindAllPanel::Show(const Global& document) {
   document_ = document;
-  top_ = ui_->Hits->Top();
+  if (is_in_view_) top_ = ui_->Hits->Top();
   Restart();
 }
 
@@ -52,9 +58,16 @@ void FindAllPanel::FocusOnText() {
   ui_->FindWhat->selectAll();
 }
 
+void FindAllPanel::Renew() {
+  is_new_text_ = true;
+  top_ = 0;
+  Restart();
+}
+
 void FindAllPanel::Restart() {
   const int row = ui_->Hits->Row();
   if (row >= 0) current_ = model_->At(row);
+  is_in_view_ = false;
   const std::string wanted = ui_->FindWhat->Bytes();
   model_->Start(document_, wanted.size());
   search_.reset();
@@ -67,18 +80,27 @@ void FindAllPanel::GoOn() {
   QElapsedTimer time;
   time.start();
   std::vector<Hit> hits;
-  while (search_ && !search_->IsDone() && time.elapsed() < kSlice) search_->SearchPage(hits);
-  model_->Add(hits);
+  const auto is_view_full = [&] { return model_->Count() + std::ssize(hits) >= top_ + kInView; };
+  const auto has_first = [&] { return is_new_text_ && !is_in_view_ && is_view_full(); };
+  while (search_ && !search_->IsDone() && !has_first() && time.elapsed() < kSlice) search_->SearchPage(hits);
+  // A list of many rows takes long to lay out, so the first are painted before the others come.
+  timer_->start(has_first() ? kFrame : 0);
+  model_->Add(std::exchange(hits, {}));
   const bool is_done = !search_ || search_->IsDone();
+  if (is_done || (!is_in_view_ && is_view_full())) ComeIntoView();
   if (is_done) {
     timer_->stop();
-    ui_->Hits->Restore(top_, current_ && ui_->Hits->Row() < 0 ? model_->RowOf(*current_) : -1);
     current_.reset();
-    top_ = 0;
-  } else {
-    timer_->start(0);
+    is_new_text_ = false;
   }
   ShowCount();
+}
+
+/// People may scroll on while the search goes on.
+void FindAllPanel::ComeIntoView() {
+  const int top = std::exchange(is_in_view_, true) ? ui_->Hits->Top() : top_;
+  const bool is_free = current_ && ui_->Hits->Row() < 0;
+  ui_->Hits->Restore(top, is_free ? model_->RowOf(*current_) : -1);
 }
 
 void FindAllPanel::ShowCount() {

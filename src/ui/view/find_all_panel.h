@@ -34,10 +34,15 @@ class FindAllPanel : public QWidget {
 
  signals:
   void Chosen(const FieldPart& part);
+  /// Characters of what is searched for became "?".
+  void CharactersReplaced(int count);
 
  private:
+  /// Searches for what has been typed now.
+  void Renew();
   void Restart();
   void GoOn();
+  void ComeIntoView();
   void ShowCount();
 
   App& app_;
@@ -46,7 +51,9 @@ class FindAllPanel : public QWidget {
   QTimer* timer_;
   Global document_;
   std::unique_ptr<FindAll> search_;
-  int top_ = 0;                       ///< the first row in view then, if the document has changed
+  bool is_new_text_ = false;          ///< people wait for the first hits
+  int top_ = 0;                       ///< the first row in view, once the hits are there
+  bool is_in_view_ = false;           ///< they are, or as many as can be seen
   std::optional<FieldPart> current_;  ///< where people stood before the search began again
 };
 

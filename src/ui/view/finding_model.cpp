@@ -30,6 +30,8 @@ void FindingModel::Set(std::vector<Finding> findings) {
 }
 
 QVariant FindingModel::data(const QModelIndex& index, int role) const {
+  // The list asks for its current row even if it has none.
+  if (!hasIndex(index.row(), index.column())) return {};
   if (role != Qt::DisplayRole && role != Qt::ToolTipRole) return {};
   const Finding& finding = At(index.row());
   const std::array<QString, 3> cells = {PageName(finding), FieldName(finding),

@@ -41,6 +41,8 @@ int HitModel::RowOf(const FieldPart& part) const {
 }
 
 QVariant HitModel::data(const QModelIndex& index, int role) const {
+  // The list asks for its current row even if it has none.
+  if (!hasIndex(index.row(), index.column())) return {};
   const FieldPart part = At(index.row());
   if (index.column() == kContextColumn) return Context(part, role);
   if (role != Qt::DisplayRole) return {};

@@ -1,11 +1,26 @@
 #include "ui/view/preview_panel.h"
 
+#include <string>
 #include <variant>
 
+#include "core/text/run_time_error.h"
 #include "ui/controls/text_conversion.h"
 #include "ui_preview_panel.h"
 
 namespace tavrel {
+namespace {
+
+/// A page's note, or why it has none. What a page keeps for its author alone is not in it.
+std::string NoteOf(const Global& document, int page, const PublishOptions& options) {
+  if (document.Page(page).empty()) return {};
+  try {
+    return NoteText(document, page, options);
+  } catch (const RunTimeError& error) {
+    return error.what();
+  }
+}
+
+}  // namespace
 
 PreviewPanel::PreviewPanel(QWidget* parent) : QWidget(parent), ui_(std::make_unique<Ui::PreviewPanel>()) {
   ui_->setupUi(this);
@@ -31,11 +46,13 @@ PreviewPanel::~PreviewPanel() = default;
 
 void PreviewPanel::Show(const Global& document) {
   const int page = document.CurrentPage;
-  const bool is_new = page != edited_page_ || document.Page(page) != document_.Page(page);
+  const bool is_elsewhere = ui_->Device->Browser().Page() != page;
+  const bool is_new = is_elsewhere && (page != edited_page_ || NoteOf(document, page, Options()) !=
+                                                                   NoteOf(document_, page, Options()));
   document_ = document;
   edited_page_ = page;
   ChangeOptions();
-  if (is_new && ui_->Device->Browser().Page() != page) ui_->Device->Browser().Start(page);
+  if (is_new) ui_->Device->Browser().Start(page);
   ui_->Device->Refresh();
 }
 

@@ -21,7 +21,7 @@ class PreviewPanel : public QWidget {
   explicit PreviewPanel(QWidget* parent = nullptr);
   ~PreviewPanel() override;
 
-  /// Shows this document from now on, and its current page if that, or what is written on it, is new.
+  /// Shows this document from now on, and its current page if that, or its note, is new.
   void Show(const Global& document);
   /// There is no document.
   void ShowNothing();

@@ -9,14 +9,37 @@
 #include <QToolButton>
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
+#include "core/editing/find_all.h"
 #include "ui/controls/program_control.h"
+#include "ui/controls/text_conversion.h"
 #include "ui/view/check_panel.h"
 #include "ui/view/find_all_panel.h"
 #include "ui/view/preview_panel.h"
 
 namespace tavrel {
+namespace {
+
+constexpr int kNoticeTime = 15000;
+
+/// What stands at the part.
+std::string_view WordsAt(const Global& document, const FieldPart& part) {
+  const std::string_view content = FieldContent(document, part);
+  return content.substr(std::min(part.Position, content.size()), part.Length);
+}
+
+/// The part without its words: near where they were, nothing selected.
+FieldPart WithoutWords(const Global& document, FieldPart part) {
+  const std::size_t end = FieldContent(document, part).size();
+  // No length selects a field of one line from the position on.
+  part.Position = part.Where == Field::Text ? std::min(part.Position, end) : end;
+  part.Length = 0;
+  return part;
+}
+
+}  // namespace
 
 ViewPanels::ViewPanels(App& app, const ViewItems& items, Editor& editor, QMainWindow& window)
     : QObject(&window),
@@ -44,6 +67,7 @@ ViewPanels::ViewPanels(App& app, const ViewItems& items, Editor& editor, QMainWi
   connect(preview_, &PreviewPanel::OptionsChanged, this, [this] { Update(); });
   On(app_.Control, check_, &CheckPanel::Chosen, this, [this](const FieldPart& part) { Lead(part); });
   On(app_.Control, find_all_, &FindAllPanel::Chosen, this, [this](const FieldPart& part) { Lead(part); });
+  connect(find_all_, &FindAllPanel::CharactersReplaced, this, &ViewPanels::TellReplaced);
   On(app_.Control, preview_, &PreviewPanel::PageChosen, this, [this](int page) { GoAlong(page); });
 }
 
@@ -105,7 +129,8 @@ void ViewPanels::ViewFindAll_Click() {
 
 /// False if the panel was closed: the item was ticked, and the panel not only behind another one.
 bool ViewPanels::Show(QDockWidget& dock, QAction& item) {
-  if (!item.isChecked() && dock.widget()->isVisible()) {
+  // The toolkit moves a panel that lies behind another one out of the window and calls it visible.
+  if (!item.isChecked() && !dock.widget()->visibleRegion().isEmpty()) {
     dock.hide();
     return false;
   }
@@ -153,9 +178,17 @@ void ViewPanels::GoAlong(int page) {
   live_.Look();  // before people go on: the page that they came to is the one in the editor
 }
 
+/// What was written since the last look may have moved what the row showed.
 void ViewPanels::Lead(FieldPart part) {
-  editor_.ShowPart(part);
+  const Global shown = live_.Document();
+  live_.Look();
+  const bool is_there = WordsAt(live_.Document(), part) == WordsAt(shown, part);
+  editor_.ShowPart(is_there ? part : WithoutWords(live_.Document(), part));
   if (app_.State.IsDocumentShown) window_.activateWindow();
+}
+
+void ViewPanels::TellReplaced(int count) {
+  window_.statusBar()->showMessage(ReplacedNotice(count), kNoticeTime);
 }
 
 }  // namespace tavrel

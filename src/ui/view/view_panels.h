@@ -49,7 +49,8 @@ class ViewPanels : public QObject {
   bool ShowAtBottom(QDockWidget& dock, QAction& item);
   void NameTabs();
   void GoAlong(int page);
-  void Lead(FieldPart part);  // a copy: showing it renews the lists that it stood in
+  void Lead(FieldPart part);  // a copy: looking renews the lists that it stood in
+  void TellReplaced(int count);
 
   App& app_;
   ViewItems items_;

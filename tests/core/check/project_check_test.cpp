@@ -94,6 +94,15 @@ TEST_F(ProjectCheckTest, ALinkWhoseNumberIsNotOfThreeDigitsLeadsToNoNote) {
   ExpectOne(Field::LinkTarget, 1, 0, 1, "There can be no page \"1\".");
 }
 
+TEST_F(ProjectCheckTest, MoreLinksThanTheEditorKeeps) {
+  std::string links;
+  for (int link = 1; link <= 49; ++link) links += Link("x", "001");
+  SetText("", links);
+  ExpectNothing();
+  SetText("", links + Link("x", "001") + Link("x", "001"));
+  ExpectOne(Field::Page, 0, 0, 0, "The page has 51 links. The editor keeps 49 when the page is stored.");
+}
+
 TEST_F(ProjectCheckTest, ALinkToMusic) {
   global_->MusicLink(7) = "<artist>A</artist>";
   SetText("", Link("x", "M7"));

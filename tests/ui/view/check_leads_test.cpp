@@ -1,6 +1,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTest>
+#include <QTimer>
 
 #include "ui/view/check_panel_test.h"
 
@@ -101,6 +102,46 @@ TEST_F(CheckLeadsTest, BeingLedWithoutHavingTypedIsNoStep) {
   for (const Problem& problem : ProblemsOfWrong())
     DoubleClickRowOf(Findings(), RowWith(Findings(), problem.Row));
   EXPECT_FALSE(HasUndo());
+}
+
+TEST_F(CheckLeadsTest, ALinkBeyondTheEditorsRowsLeadsToItsPage) {
+  std::string links;
+  for (int link = 1; link < 56; ++link) links += LinkRecord("x", "002");
+  OpenWith("\r\n 1 ,<title>A</title>\r\n 2 ,<title>B</title><link>" + links + LinkRecord("y", "M500") +
+           "</link>\r\n");
+  const std::string culprit = "002 | Link to 56 | ";
+  ASSERT_TRUE(WaitFor([&] { return Findings().model()->rowCount() > 0; }));
+  for (const char* from : {"another page", "the page itself"}) {
+    DoubleClickRowOf(Findings(), RowWith(Findings(), culprit));
+    EXPECT_EQ(Where(), "page 2, Text1 []") << from;
+    Title().setFocus();
+  }
+}
+
+TEST_F(CheckLeadsTest, AHalfTypedLinkOnTheCulpritsOwnPageStays) {
+  OpenWrong();
+  const std::string stored = Stored(1);
+  ClickRow(LinksGrid(), 4);
+  TypeInto(LinkText(), "half");
+  TypeInto(MusicLink(), "M5");
+  DoubleClickRowOf(Findings(), RowWith(Findings(), "Page 007 is empty."));
+  EXPECT_EQ(Where(), "page 1, link 3, Combo1 [007]");
+  EXPECT_EQ(MusicLink().Bytes(), "M5");
+  ClickRow(LinksGrid(), 4);
+  EXPECT_EQ(LinkText().Bytes(), "half");
+  EXPECT_EQ(Stored(1), stored);
+}
+
+TEST_F(CheckLeadsTest, ACulpritThatHasMovedSinceTheLastLookIsNotSelectedByItsOldPlace) {
+  OpenWrong();
+  ClickRow(PagesGrid(), 2);
+  LetPanelsLook();
+  Find<QTimer>(Window(), "LookTimer").stop();
+  TypeInFront(Body(), "more words ");
+  DoubleClickRowOf(Findings(), RowWith(Findings(), kLoneBracket));
+  EXPECT_EQ(Where(), "page 2, Text1 []");
+  DoubleClickRowOf(Findings(), RowWith(Findings(), kLoneBracket));
+  EXPECT_EQ(Where(), "page 2, Text1 [<]") << "the list was renewed";
 }
 
 TEST_F(CheckLeadsTest, TypingOnTheCulpritsOwnPageStaysInTheFields) {

@@ -1,6 +1,7 @@
 #include "ui/view/find_all_panel_test.h"
 
 #include <QCheckBox>
+#include <QStatusBar>
 #include <QTest>
 
 #include <gmock/gmock.h>
@@ -151,6 +152,15 @@ TEST_F(FindAllPanelTest, TheKeysForUndoInTheFieldTakeBackItsOwnTyping) {
     PressOnFocus(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(FindWhat().text(), word) << floats;
   }
+}
+
+TEST_F(FindAllPanelTest, CharactersBeyondTheCodePageBecomeQuestionMarksAndAreTold) {
+  OpenOrchard();
+  TypeInto(FindWhat(), u"\u0142ab"_qs);
+  EXPECT_EQ(FindWhat().text(), "?ab");
+  const QStatusBar& status_bar = *Window().statusBar();
+  EXPECT_EQ(status_bar.currentMessage(), "A character that an iPod note cannot hold became \"?\".");
+  EXPECT_TRUE(status_bar.isVisible());
 }
 
 TEST_F(FindAllPanelTest, WithoutAProjectThereAreNoHits) {

@@ -49,8 +49,8 @@ class ViewMemoryTest : public RememberedWindowTest {
       QDockWidget& dock = Dock(window, panel);
       EXPECT_EQ(IsTicked(window, panel), !dock.isHidden()) << what << ' ' << panel;
       auto& item = Find<QAction>(window, kDockItems.at(static_cast<std::size_t>(panel)));
-      // A panel that is open may stand behind another one.
-      if (item.isChecked()) item.trigger();
+      // A panel that is open may stand behind another one, and its item would bring it to the front.
+      dock.close();
       item.trigger();
       Settle();
       EXPECT_TRUE(dock.isVisible()) << what << ' ' << panel;

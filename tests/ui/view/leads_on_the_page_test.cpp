@@ -1,0 +1,142 @@
+#include <QTest>
+#include <QTimer>
+
+#include <string>
+#include <vector>
+
+#include "ui/main/page_grids.h"
+#include "ui/view/find_all_panel_test.h"
+
+namespace tavrel::test {
+namespace {
+
+/// Being led on the page that is being edited.
+class LeadsOnThePageTest : public FindAllPanelTest {
+ protected:
+  /// Types the words of a link, which has no target yet.
+  void TypeHalfALink(int row) {
+    ClickRow(LinksGrid(), row);
+    TypeInto(LinkText(), "half");
+  }
+
+  void ClickHit(const std::string& row) { ClickRowOf(Hits(), RowWith(Hits(), row)); }
+
+  /// From now on nothing that is typed is looked at but by what people do.
+  void StopLooking() { Find<QTimer>(Window(), "LookTimer").stop(); }
+};
+
+TEST_F(LeadsOnThePageTest, WordsOfALinkWithoutATargetStay) {
+  OpenOrchard();
+  const std::string stored = Stored(1);
+  TypeHalfALink(2);
+  Look("Start");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Text3 [Start]");
+  EXPECT_EQ(LinkText().Bytes(), "half");
+  Look("On");
+  ClickHit("001 | Link text 1");
+  EXPECT_EQ(Where(), "page 1, link 1, Text5 [On]");
+  EXPECT_EQ(LinksGrid().TextMatrix(2, kTextColumn), "half");
+  ClickRow(LinksGrid(), 2);
+  EXPECT_EQ(LinkText().Bytes(), "half");
+  EXPECT_EQ(Stored(1), stored);
+}
+
+TEST_F(LeadsOnThePageTest, AMusicLinkThatWasTypedBeforeItsTextStays) {
+  OpenOrchard();
+  const std::string stored = Stored(1);
+  TypeInto(MusicLink(), "M5");
+  Look("Start");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Text3 [Start]");
+  EXPECT_EQ(MusicLink().Bytes(), "M5");
+  EXPECT_EQ(Stored(1), stored);
+}
+
+TEST_F(LeadsOnThePageTest, TypedWordsAreNotStoredAndTheirFieldCanStillTakeThemBack) {
+  OpenOrchard();
+  const std::string stored = Stored(1);
+  TypeInto(Title(), "Pear");
+  Look("Nothing");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Text1 [Nothing]");
+  EXPECT_EQ(Title().Bytes(), "Pear");
+  EXPECT_EQ(Stored(1), stored);
+  EXPECT_TRUE(Title().HasUndo());
+}
+
+TEST_F(LeadsOnThePageTest, AHalfTypedLinkBetweenTheRowsDoesNotShiftThem) {
+  OpenOrchard();
+  TypeHalfALink(2);
+  ClickRow(LinksGrid(), 3);
+  TypeInto(LinkText(), "Last");
+  TypeInto(LinkTarget(), "005\n");
+  Look("Last");
+  ASSERT_TRUE(WaitForRows(1));
+  EXPECT_EQ(RowsOf(Hits()), Rows{"001 | Link text 2 | Last"}) << "as the page is stored";
+  ClickRow(LinksGrid(), 1);
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, link 3, Text5 [Last]");
+  Look("005");
+  ClickRow(LinksGrid(), 1);
+  ClickHit("001 | Link to 2");
+  EXPECT_EQ(Where(), "page 1, link 3, Combo1 [005]");
+}
+
+TEST_F(LeadsOnThePageTest, BlanksTypedInFrontDoNotShiftTheSelection) {
+  OpenOrchard();
+  ClickRow(PagesGrid(), 2);
+  ClickRow(LinksGrid(), 2);
+  for (QWidget* field : {static_cast<QWidget*>(&Title()), static_cast<QWidget*>(&Note()),
+                         static_cast<QWidget*>(&Body()), static_cast<QWidget*>(&LinkText()),
+                         static_cast<QWidget*>(&LinkTarget().Field()), static_cast<QWidget*>(&MusicText())})
+    TypeInFront(*field, "   ");
+  Look("pear");
+  LetPanelsLook();
+  const std::vector<std::string> places = {"Text3 [Pear]", "Text4 [pear]",         "Text1 [pear]",
+                                           "Text1 [PEAR]", "link 2, Text5 [pear]", "Text6 [Pear]"};
+  for (std::size_t row = 0; row < places.size(); ++row) {
+    ClickRowOf(Hits(), static_cast<int>(row));
+    EXPECT_EQ(Where(), "page 2, " + places[row]) << kPears[row];
+  }
+  Look("001");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 2, link 2, Combo1 [001]");
+  EXPECT_EQ(Title().Bytes(), "   Pear tart") << "the blanks stay until the page is stored";
+}
+
+TEST_F(LeadsOnThePageTest, WordsThatHaveMovedSinceTheLastLookAreNotSelectedByTheirOldPlace) {
+  OpenOrchard();
+  ClickRow(PagesGrid(), 2);
+  Look("pear");
+  LetPanelsLook();
+  StopLooking();
+  TypeInFront(Title(), "longer ");
+  TypeInFront(Body(), "longer ");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 2, Text3 []");
+  ClickHit("Link text 2");
+  EXPECT_EQ(Where(), "page 2, link 2, Text5 [pear]");
+  TypeInFront(Body(), "still ");
+  ClickHit("longer One");
+  EXPECT_EQ(Where(), "page 2, Text1 []");
+  // "still longer One " stood before the word when the row was shown with "longer One " before it.
+  EXPECT_EQ(Body().textCursor().position(), 11) << "near to where it was";
+  ClickHit("still longer One");
+  EXPECT_EQ(Where(), "page 2, Text1 [pear]") << "the list was renewed";
+}
+
+TEST_F(LeadsOnThePageTest, AFieldThatWasEmptiedSinceTheLastLookIsLedToAllTheSame) {
+  OpenOrchard();
+  ClickRow(PagesGrid(), 2);
+  Look("pear");
+  LetPanelsLook();
+  StopLooking();
+  TypeInto(Body(), "");
+  ClickRowOf(Hits(), 3);
+  EXPECT_EQ(Where(), "page 2, Text1 []");
+  EXPECT_EQ(Body().Bytes(), "");
+}
+
+}  // namespace
+}  // namespace tavrel::test
