@@ -26,7 +26,7 @@ void CheckLength(const Global& global, int page, const PageParts& parts, const P
                  PageReport& report) {
   const auto stops = [](const Finding& finding) { return finding.StopsPublishing; };
   if (std::any_of(report.Findings.begin(), report.Findings.end(), stops)) return;
-  const std::size_t length = NoteText(global, page, parts, options).size();
+  const std::size_t length = NoteTextOf(global, page, parts, options).size();
   if (length <= kShownBytes) return;
   Add(report.Findings, page, Field::Page,
       "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.")

@@ -120,10 +120,11 @@ std::string NoteTitleLine(const Global& global, int page) {
 }
 
 std::string NoteText(const Global& global, int page, const PublishOptions& options) {
-  return NoteText(global, page, PartsOf(global.Page(page)), options);
+  return NoteTextOf(global, page, PartsOf(global.Page(page)), options);
 }
 
-std::string NoteText(const Global& global, int page, const PageParts& parts, const PublishOptions& options) {
+std::string NoteTextOf(const Global& global, int page, const PageParts& parts,
+                       const PublishOptions& options) {
   std::string note;
   const std::size_t size = global.Page(page).size();
   note.reserve(size + size / 4);

@@ -36,7 +36,7 @@ std::string NoteTitleLine(const Global& global, int page);
 /// The bytes of a page's note file.
 std::string NoteText(const Global& global, int page, const PublishOptions& options);
 /// The same of a page that has been taken apart.
-std::string NoteText(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
+std::string NoteTextOf(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
 
 /// How many notes of a folder no page rewrites. An iPod shows them beside those of the pages.
 int OtherNotes(const Global& global, const std::filesystem::path& folder, const CodePage& code_page);

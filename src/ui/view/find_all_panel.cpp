@@ -16,9 +16,9 @@
 namespace tavrel {
 namespace {
 
-constexpr qint64 kSlice = 8;  // milliseconds of searching between looks at the keyboard
-constexpr int kFrame = 20;    // milliseconds in which the first hits come to the screen
-constexpr int kInView = 100;  // rows; more do not fit
+constexpr qint64 kSlice = 8;     // milliseconds of searching between looks at the keyboard
+constexpr int kUntilShown = 20;  // milliseconds in which the first hits come to the screen
+constexpr int kInView = 100;     // rows; more do not fit
 
 }  // namespace
 
@@ -84,7 +84,7 @@ void FindAllPanel::GoOn() {
   const auto has_first = [&] { return is_new_text_ && !is_in_view_ && is_view_full(); };
   while (search_ && !search_->IsDone() && !has_first() && time.elapsed() < kSlice) search_->SearchPage(hits);
   // A list of many rows takes long to lay out, so the first are painted before the others come.
-  timer_->start(has_first() ? kFrame : 0);
+  timer_->start(has_first() ? kUntilShown : 0);
   model_->Add(std::exchange(hits, {}));
   const bool is_done = !search_ || search_->IsDone();
   if (is_done || (!is_in_view_ && is_view_full())) ComeIntoView();
