@@ -80,6 +80,7 @@ void Tour::LookThroughThePanels() {
   TakePicture(*window_, "find-all");
   Choose("ViewFindAll");
   Choose("ViewCheck");
+  window_->resize(size);
 }
 
 void Tour::MoveBlocks() {

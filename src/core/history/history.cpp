@@ -1,7 +1,9 @@
 #include "core/history/history.h"
 
 #include <algorithm>
+#include <bit>
 #include <functional>
+#include <numeric>
 #include <string>
 #include <utility>
 
@@ -11,27 +13,50 @@ namespace {
 template <typename RecordArray>
 std::vector<Change> Changes(const RecordArray& before, const RecordArray& after) {
   std::vector<Change> changes;
+  const auto shares = [](const Record& one, const Record& other) { return one.Shares(other); };
+  const auto sharing =
+      std::inner_product(before.begin(), before.end(), after.begin(), std::size_t{0}, std::plus<>(), shares);
+  changes.reserve(before.size() - sharing);
   for (std::size_t number = 0; number < before.size(); ++number) {
     if (before[number] == after[number]) continue;
     changes.push_back({static_cast<int>(number), before[number], after[number]});
   }
-  changes.shrink_to_fit();
   return changes;
 }
 
 using Side = Record Change::*;
 
+/// Knows records by where their bytes are. A step may have a thousand, and is counted after each command.
+class Places {
+ public:
+  explicit Places(std::size_t most) : slots_(std::bit_ceil(2 * most + 1)) {}
+
+  void Add(const std::string* bytes) { slots_[SlotOf(bytes)] = bytes; }
+  bool Has(const std::string* bytes) const { return slots_[SlotOf(bytes)] == bytes; }
+
+ private:
+  std::size_t SlotOf(const std::string* bytes) const {
+    constexpr std::size_t kApart = 16;  // bytes, at least
+    std::size_t slot = std::hash<const std::string*>()(bytes) / kApart;
+    while (true) {
+      slot &= slots_.size() - 1;
+      if (slots_[slot] == nullptr || slots_[slot] == bytes) return slot;
+      ++slot;
+    }
+  }
+
+  std::vector<const std::string*> slots_;
+};
+
 /// The bytes of the records of one side that the other does not have. Records that have only moved are the
 /// document's own.
 std::size_t BytesOfSide(const std::vector<Change>& changes, Side side, Side other) {
-  std::vector<const std::string*> others;
-  others.reserve(changes.size());
-  for (const Change& change : changes) others.push_back(&(change.*other).Bytes());
-  std::sort(others.begin(), others.end(), std::less<>());
+  Places others(changes.size());
+  for (const Change& change : changes) others.Add(&(change.*other).Bytes());
   std::size_t bytes = 0;
   for (const Change& change : changes) {
     const std::string& record = (change.*side).Bytes();
-    if (!std::binary_search(others.begin(), others.end(), &record, std::less<>())) bytes += record.size();
+    if (!others.Has(&record)) bytes += record.size();
   }
   return bytes;
 }

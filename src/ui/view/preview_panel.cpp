@@ -1,5 +1,8 @@
 #include "ui/view/preview_panel.h"
 
+#include <QLayout>
+#include <QStyle>
+
 #include <string>
 #include <variant>
 
@@ -62,6 +65,12 @@ void PreviewPanel::ShowNothing() {
   ui_->Device->Browser() = PodBrowser(ScreenLook(kScreenModels.at(0)).Layout());
   ChangeScreen();
   ChangeOptions();
+}
+
+QSize PreviewPanel::sizeHint() const {
+  const QMargins margins = layout()->contentsMargins();
+  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  return QWidget::sizeHint().expandedTo({ui_->Device->width() + bar + margins.left() + margins.right(), 0});
 }
 
 void PreviewPanel::ChangeScreen() {

@@ -26,6 +26,9 @@ class PreviewPanel : public QWidget {
   /// There is no document.
   void ShowNothing();
 
+  /// The device as a whole across, with a scroll bar beside it.
+  QSize sizeHint() const override;
+
   /// What is chosen as in the Publish window.
   PublishOptions Options() const;
 

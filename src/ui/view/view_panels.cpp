@@ -130,7 +130,8 @@ void ViewPanels::ViewFindAll_Click() {
 /// False if the panel was closed: the item was ticked, and the panel not only behind another one.
 bool ViewPanels::Show(QDockWidget& dock, QAction& item) {
   // The toolkit moves a panel that lies behind another one out of the window and calls it visible.
-  if (!item.isChecked() && !dock.widget()->visibleRegion().isEmpty()) {
+  const bool is_in_view = dock.isFloating() || window_.rect().intersects(dock.geometry());
+  if (!item.isChecked() && is_in_view && dock.isVisible()) {
     dock.hide();
     return false;
   }

@@ -45,7 +45,7 @@ class ViewPanels : public QObject {
   void Update();
   void UpdateCheck();
   void MakeRoomForPreview();
-  static bool Show(QDockWidget& dock, QAction& item);
+  bool Show(QDockWidget& dock, QAction& item);
   bool ShowAtBottom(QDockWidget& dock, QAction& item);
   void NameTabs();
   void GoAlong(int page);

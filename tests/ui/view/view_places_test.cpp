@@ -148,5 +148,19 @@ TEST_F(RoomForPreviewTest, BothFitOnALaptopsScreenInLargeLetters) {
   EXPECT_LE(least.height(), 768);
 }
 
+class TabbedPanelsTest : public ViewTest {};
+
+TEST_F(TabbedPanelsTest, APanelThatCameToTheFrontWhenTheOtherWasClosedIsClosed) {
+  OpenDocument("Guide.dat", kGuide);
+  Choose("ViewCheck");
+  Choose("ViewFindAll");
+  Settle();
+  Choose("ViewFindAll");
+  Settle();
+  Choose("ViewCheck");
+  EXPECT_TRUE(Dock("FindAllPanelDock").isHidden());
+  EXPECT_TRUE(Dock("CheckPanelDock").isHidden());
+}
+
 }  // namespace
 }  // namespace tavrel::test
