@@ -13,6 +13,13 @@ constexpr const char* kText = "<text>";
 /// Replacements within replacements must not fill the memory.
 constexpr std::size_t kMostGrowth = 20'000'000;
 
+/// A text with another part in place of one of its own.
+std::string Spliced(std::string_view text, std::size_t start, std::size_t length, std::string_view part) {
+  std::string spliced;
+  spliced.reserve(text.size() - length + part.size());
+  return spliced.append(text.substr(0, start)).append(part).append(text.substr(start + length));
+}
+
 }  // namespace
 
 std::optional<Match> FindInPages(const Global& global, std::string_view wanted, int first_page,
@@ -32,11 +39,14 @@ int ReplaceInPages(Global& global, std::string_view wanted, std::string_view rep
   std::size_t room = kMostGrowth;
   int changed = 0;
   for (int page = 1; page <= kLastRecord; ++page) {
-    const std::string_view text = TagContent(global.Page(page), kText, 1);
+    const std::string_view record = global.Page(page);
+    const std::string_view text = TagContent(record, kText, 1);
     const std::string replaced = Replacement(text, search, replacement, room).Run();
     if (replaced.size() > text.size()) room -= std::min(room, replaced.size() - text.size());
     if (replaced == text) continue;
-    SetTag(global.Page(page).Edit(), replaced, kText, 1);
+    // Not edited in place: who keeps the record as it was would have it copied first.
+    const auto start = static_cast<std::size_t>(text.data() - record.data());
+    global.Page(page) = Spliced(record, start, text.size(), replaced);
     ++changed;
   }
   return changed;
