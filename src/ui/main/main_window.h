@@ -101,8 +101,8 @@ class Main : public QMainWindow, public Editor {
   void ConnectFields();
   void MoveFocusToBody();
   void NameSeparators();
-  /// The fields and the links grid, without the link that is being typed.
   void SelectHere(FieldPart part);
+  /// The fields and the links grid, without the link that is being typed.
   PageFields StoredFields() const;
   /// The record that the fields give with it.
   std::string RecordOfFields() const;
