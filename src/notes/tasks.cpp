@@ -1,5 +1,6 @@
 #include "notes/tasks.h"
 
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
@@ -21,25 +22,24 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A project, and the lines of its file that its pages stand in.
+/// A project and its file.
 struct Project {
   fs::path File;
   Global State;
-  DocumentLines Lines;
 };
 
 std::unique_ptr<Project> Read(const fs::path& file) {
   auto project = std::make_unique<Project>();
   project->File = file;
-  const std::string text = ReadWholeFile(file);
-  project->Lines = LinesOf(text);
   try {
-    ReadDocumentText(text, project->State);
+    ReadDocumentFile(file, project->State);
+  } catch (const FileError&) {
+    throw;
   } catch (const RunTimeError& error) {
     // The editor's advice behind the fault is for its own menus.
     const std::string told = error.what();
     throw TaskError(
-        MessageAbout(file, project->Lines.Damaged,
+        MessageAbout(file, LinesOf(ReadWholeFile(file)).Damaged,
                      told.substr(0, told.find('\n')) + " Restore its backup or repair it in a text editor."));
   }
   return project;
@@ -66,35 +66,35 @@ std::string FieldName(const Finding& finding) {
   }
 }
 
-void Tell(const Project& project, const Finding& finding) {
-  int line = 0;
-  std::string sentence = finding.Sentence;
-  if (finding.Page > 0) {
-    line = project.Lines.Pages.at(static_cast<std::size_t>(finding.Page));
-    sentence = "page " + FormatPage(finding.Page) + FieldName(finding) + ": " + sentence;
-  }
-  std::cerr << MessageAbout(project.File, line, sentence) << '\n';
+std::string Message(const Project& project, const DocumentLines& lines, const Finding& finding) {
+  if (finding.Page == 0) return MessageAbout(project.File, 0, finding.Sentence);
+  return MessageAbout(project.File, lines.Pages.at(static_cast<std::size_t>(finding.Page)),
+                      "page " + FormatPage(finding.Page) + FieldName(finding) + ": " + finding.Sentence);
+}
+
+void Tell(const Project& project, const std::vector<Finding>& findings) {
+  if (findings.empty()) return;
+  const DocumentLines lines = LinesOf(ReadWholeFile(project.File));
+  for (const Finding& finding : findings) std::cerr << Message(project, lines, finding) << '\n';
 }
 
 Outcome Check(const Arguments& arguments, const Platform& platform) {
   const auto project = Read(arguments.From);
   const std::vector<Finding> findings =
       CheckProject(project->State, platform.SystemCodePage(), arguments.Options);
-  for (const Finding& finding : findings) Tell(*project, finding);
+  Tell(*project, findings);
   return findings.empty() ? Outcome::Done : Outcome::Found;
 }
 
 /// Publishing would stop half-way at the links that it cannot write. More notes than an iPod shows are told,
 /// and published.
 bool CanBePublished(const Project& project, const Arguments& arguments, const Platform& platform) {
-  bool can_be = true;
   const CodePage& code_page = platform.SystemCodePage();
   const int others = OtherNotes(project.State, arguments.To, code_page);
-  for (const Finding& finding : CheckProject(project.State, code_page, arguments.Options, others)) {
-    if (finding.StopsPublishing || finding.TooManyNotes) Tell(project, finding);
-    can_be = can_be && !finding.StopsPublishing;
-  }
-  return can_be;
+  const std::vector<Finding> findings = CheckPublishing(project.State, code_page, others);
+  Tell(project, findings);
+  return std::none_of(findings.begin(), findings.end(),
+                      [](const Finding& finding) { return finding.StopsPublishing; });
 }
 
 Outcome Publish(const Arguments& arguments, Platform& platform) {

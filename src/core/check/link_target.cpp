@@ -13,11 +13,10 @@ namespace {
 
 using Kind = LinkTarget::Kind;
 
-LinkTarget PageTarget(const Global& global, std::string_view target) {
-  const int number = WholeValue(target);
-  const bool names_a_note = target.size() == 3 && std::all_of(target.begin(), target.end(), IsDigit);
-  if (!names_a_note) return {Kind::NoPage, number};
-  return {global.Page(number).empty() ? Kind::EmptyPage : Kind::Page, number};
+/// The page whose note has such a name; 0 if no page's has.
+int NotedPage(std::string_view target) {
+  if (target.size() != 3 || !std::all_of(target.begin(), target.end(), IsDigit)) return 0;
+  return WholeValue(target);
 }
 
 /// Notes are not published, so they do not count.
@@ -31,7 +30,9 @@ bool NamesMusic(std::string_view record) {
 }  // namespace
 
 LinkTarget TargetOf(const Global& global, std::string_view target) {
-  return Value(target) > 0 ? PageTarget(global, target) : MusicTargetOf(global, target);
+  if (const int page = NotedPage(target); page > 0)
+    return {global.Page(page).empty() ? Kind::EmptyPage : Kind::Page, page};
+  return Value(target) > 0 ? LinkTarget{Kind::NoPage, WholeValue(target)} : MusicTargetOf(global, target);
 }
 
 LinkTarget MusicTargetOf(const Global& global, std::string_view target) {

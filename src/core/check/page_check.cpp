@@ -1,12 +1,15 @@
 #include "core/check/page_check.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "core/check/link_target.h"
 #include "core/check/lost_words.h"
+#include "core/document/brackets.h"
 #include "core/document/page_parts.h"
 #include "core/document/page_record.h"
 #include "core/document/spoiling_tags.h"
@@ -26,31 +29,53 @@ std::string Words(std::string_view words) {
   return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
 }
 
+bool IsPlain(char c) {
+  return static_cast<unsigned char>(c) < 0x80 && c != '<';
+}
+
 /// Whether a text has only letters that every code page has in the same place, and no brackets. Most have.
 bool IsPlain(std::string_view text) {
-  // Without a branch, so that the compiler looks at many at once.
-  unsigned char all = 0;
-  unsigned char has_bracket = 0;
-  for (const char c : text) {
-    all |= static_cast<unsigned char>(c);
-    has_bracket |= static_cast<unsigned char>(c == '<');
-  }
-  return all < 0x80 && has_bracket == 0;
+  // Eight bytes at a time. The highest bit of each then says that it is another letter, or was a bracket.
+  constexpr std::uint64_t kEach = 0x0101010101010101;
+  std::uint64_t found = 0;
+  if (text.size() < sizeof found)
+    return std::all_of(text.begin(), text.end(), [](char c) { return IsPlain(c); });
+  const auto look_at = [&](std::size_t at) {
+    std::uint64_t eight = 0;
+    std::memcpy(&eight, text.data() + at, sizeof eight);
+    const std::uint64_t zero_if_bracket = eight ^ (kEach * '<');
+    found |= eight | ((zero_if_bracket - kEach) & ~zero_if_bracket);
+  };
+  for (std::size_t at = 0; at + sizeof found < text.size(); at += sizeof found) look_at(at);
+  look_at(text.size() - sizeof found);
+  return (found & (kEach * 0x80)) == 0;
 }
 
-std::size_t SizeOfElement(std::string_view tag, std::string_view content) {
-  return content.empty() ? 0 : 2 * tag.size() + 1 + content.size();
-}
-
-/// How long a record is that holds these parts as the editor writes them, and nothing else.
-std::size_t SizeOfElements(const PageParts& parts) {
-  std::size_t size = SizeOfElement("<title>", parts.Title) + SizeOfElement("<note>", parts.Note) +
-                     SizeOfElement("<text>", parts.Text) + SizeOfElement("<music>", parts.MusicText) +
-                     SizeOfElement("<music>", parts.MusicLink);
-  if (!parts.Links.empty()) size += std::string_view("<link></link>").size();
-  for (const PageParts::Link& link : parts.Links)
-    size += SizeOfElement("<linktext>", link.Text) + SizeOfElement("<linkto>", link.Target);
-  return size;
+/// Whether a record holds its parts as the editor writes them, one behind the other, and nothing else.
+bool IsAsWritten(std::string_view record, const PageParts& parts) {
+  std::size_t at = 0;
+  const auto pass = [&](std::string_view tag, std::string_view content) {
+    if (content.empty()) return true;
+    if (content.data() != record.data() + at + tag.size()) return false;
+    at += 2 * tag.size() + 1 + content.size();
+    return true;
+  };
+  const auto pass_tag = [&](std::string_view tag) {
+    if (!record.substr(at).starts_with(tag)) return false;
+    at += tag.size();
+    return true;
+  };
+  const auto pass_link = [&](const PageParts::Link& link) {
+    return pass("<linktext>", link.Text) && pass("<linkto>", link.Target);
+  };
+  const auto pass_links = [&] {
+    return parts.Links.empty() ||
+           (pass_tag("<link>") && std::all_of(parts.Links.begin(), parts.Links.end(), pass_link) &&
+            pass_tag("</link>"));
+  };
+  return pass("<title>", parts.Title) && pass("<note>", parts.Note) && pass("<text>", parts.Text) &&
+         pass_links() && pass("<music>", parts.MusicText) && pass("<music>", parts.MusicLink) &&
+         at == record.size();
 }
 
 /// Looks at one page.
@@ -62,9 +87,7 @@ class PageCheck {
         code_page_(code_page),
         parts_(parts),
         published_(parts.PublishedLinks()),
-        brackets_(BracketsOf(parts.Text)) {
-    report_.LeadsTo.reserve(parts.Links.size());
-  }
+        brackets_(BracketsOf(parts.Text)) {}
 
   PageReport Run() {
     CheckTitle();
@@ -101,8 +124,9 @@ class PageCheck {
   }
 
   void CheckLostWords() {
-    if (SizeOfElements(parts_) == global_.Page(page_).size()) return;
-    for (const LostWords& lost : FindLostWords(global_.Page(page_).Bytes())) {
+    const std::string_view record = global_.Page(page_);
+    if (IsAsWritten(record, parts_)) return;
+    for (const LostWords& lost : FindLostWords(record)) {
       const FieldPart& field = lost.Behind;
       AddAt(field.Where, field.Link, field.Position, 0,
             lost.Tag.empty() ? "Words that stand in no field are lost."
@@ -147,6 +171,11 @@ class PageCheck {
   void CheckLinks();
   void CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads, bool is_published);
   void CheckMusic();
+  /// Whether an address of music has one. That of most music has none as there is none at all.
+  bool HasQuotationMark(int music_link, std::string_view target) const {
+    return global_.MusicLink(music_link).find("\"") != std::string::npos &&
+           GetMusic(global_, target).find('"') != std::string::npos;
+  }
   bool IsUsed(std::size_t link) const {
     return link < published_ || (brackets_.AreLinks && link < brackets_.Links.size());
   }
@@ -162,7 +191,7 @@ class PageCheck {
 
 void PageCheck::CheckBrackets() {
   if (!brackets_.AreLinks) {
-    const std::size_t bracket = FindBracket(parts_.Text, 0);
+    const std::size_t bracket = brackets_.First;
     if (bracket == std::string_view::npos) return;
     const bool has_both = parts_.Text[bracket] == '>' && !brackets_.Links.empty();
     AddAt(Field::Text, 0, bracket, 1,
@@ -203,8 +232,13 @@ void PageCheck::CheckLinks() {
     const int row = static_cast<int>(link) + 1;
     const PageParts::Link& parts = parts_.Links[link];
     CheckLinkWords(Field::LinkText, row, parts.Text);
-    if (!parts.Target.empty())
-      CheckTarget(Field::LinkTarget, row, parts.Target, TargetOf(global_, parts.Target), IsUsed(link));
+    if (parts.Target.empty()) continue;
+    const LinkTarget leads = TargetOf(global_, parts.Target);
+    if (leads.What != Kind::Page) {
+      CheckTarget(Field::LinkTarget, row, parts.Target, leads, IsUsed(link));
+    } else if (IsUsed(link)) {
+      report_.LeadsTo.set(static_cast<std::size_t>(leads.Number));
+    }
   }
   if (published_ == parts_.Links.size()) return;
   const std::size_t behind = parts_.Links.size() - published_ - 1;
@@ -219,7 +253,6 @@ void PageCheck::CheckLinks() {
 
 void PageCheck::CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads,
                             bool is_published) {
-  if (leads.What == Kind::Page && is_published) report_.LeadsTo.push_back(leads.Number);
   const auto add = [&](std::string sentence) {
     AddAt(where, row, 0, target.size(), std::move(sentence));
     report_.Findings.back().StopsPublishing = leads.What == Kind::ImpossibleMusic && is_published;
@@ -231,7 +264,7 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
     case Kind::Page:
       return;
     case Kind::Music:
-      if (GetMusic(global_, target).find('"') == std::string::npos) return;
+      if (!HasQuotationMark(leads.Number, target)) return;
       return add("A name in music link " + MusicLinkName(leads.Number) +
                  " holds a quotation mark, at which an iPod ends the link.");
     case Kind::EmptyPage:

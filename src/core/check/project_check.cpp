@@ -1,11 +1,13 @@
 #include "core/check/project_check.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "core/ipod/device_limits.h"
+#include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
@@ -22,19 +24,31 @@ Finding& Add(std::vector<Finding>& findings, int page, Field where, std::string 
   return finding;
 }
 
+bool StopsPublishing(const Finding& finding) {
+  return finding.StopsPublishing;
+}
+
+bool CanBePublished(const Global& global, int page, const PageParts& parts) {
+  try {
+    NoteLength(global, page, parts, {});
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
 void CheckLength(const Global& global, int page, const PageParts& parts, const PublishOptions& options,
                  PageReport& report) {
-  const auto stops = [](const Finding& finding) { return finding.StopsPublishing; };
-  if (std::any_of(report.Findings.begin(), report.Findings.end(), stops)) return;
-  const std::size_t length = NoteTextOf(global, page, parts, options).size();
+  if (std::any_of(report.Findings.begin(), report.Findings.end(), StopsPublishing)) return;
+  const std::size_t length = NoteLength(global, page, parts, options);
   if (length <= kShownBytes) return;
   Add(report.Findings, page, Field::Page,
       "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.")
       .CutsNote = true;
 }
 
-void CheckNumberOfNotes(std::size_t notes, std::vector<Finding>& findings) {
-  if (notes > static_cast<std::size_t>(kMostNotes))
+void CheckNumberOfNotes(int notes, std::vector<Finding>& findings) {
+  if (notes > kMostNotes)
     Add(findings, 0, Field::Project,
         "There would be " + std::to_string(notes) + " notes. An iPod shows 1,000.")
         .TooManyNotes = true;
@@ -53,13 +67,14 @@ std::vector<Finding> ProjectCheck::Run(const Global& global, const CodePage& cod
                                        const PublishOptions& options, int other_notes) {
   Renew(global, options);
   CheckPages(global, code_page);
+  const Pages reached = ReachedPages();
   std::vector<Finding> findings;
-  for (const CheckedPage& page : pages_)
-    findings.insert(findings.end(), page.Report.Findings.begin(), page.Report.Findings.end());
-  AddUnreachedPages(findings);
-  std::stable_sort(findings.begin(), findings.end(),
-                   [](const Finding& one, const Finding& other) { return one.Page < other.Page; });
-  CheckNumberOfNotes(surroundings_.IsPage.count() + static_cast<std::size_t>(other_notes), findings);
+  for (int page = 1; page <= kLastPage; ++page) {
+    const std::vector<Finding>& found = At(page).Report.Findings;
+    findings.insert(findings.end(), found.begin(), found.end());
+    AddUnreached(page, reached, findings);
+  }
+  CheckNumberOfNotes(static_cast<int>(surroundings_.IsPage.count()) + other_notes, findings);
   CheckUnstored(global, findings);
   return findings;
 }
@@ -79,53 +94,63 @@ void ProjectCheck::Renew(const Global& global, const PublishOptions& options) {
 }
 
 void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
+  PageParts parts;
   for (int page = 1; page <= kLastPage; ++page) {
     const Record& bytes = global.Page(page);
     CheckedPage& checked = At(page);
     if (bytes.Shares(checked.Bytes)) continue;
     checked = {bytes, {}};
     if (bytes.empty()) continue;
-    const PageParts parts = PartsOf(bytes);
+    ReadParts(bytes, parts);
     checked.Report = CheckPage(global, page, parts, code_page);
     CheckLength(global, page, parts, surroundings_.Options, checked.Report);
   }
 }
 
 /// The pages to which one comes from page 1 on.
-std::bitset<kLastPage + 1> ProjectCheck::ReachedPages() const {
-  std::bitset<kLastPage + 1> reached;
-  std::vector<int> ahead;
-  const auto reach = [&](int page) {
-    auto is_reached = reached[static_cast<std::size_t>(page)];
-    if (is_reached) return;
-    is_reached = true;
-    ahead.push_back(page);
-  };
-  reach(1);
+ProjectCheck::Pages ProjectCheck::ReachedPages() const {
+  Pages reached;
+  std::vector<int> ahead = {1};
+  reached.set(1);
   while (!ahead.empty()) {
-    const int page = ahead.back();
+    const Pages next = At(ahead.back()).Report.LeadsTo & ~reached;
     ahead.pop_back();
-    for (const int next : At(page).Report.LeadsTo) reach(next);
+    reached |= next;
+    for (int page = 1; next.any() && page <= kLastPage; ++page) {
+      if (next[static_cast<std::size_t>(page)]) ahead.push_back(page);
+    }
   }
   return reached;
 }
 
-void ProjectCheck::AddUnreachedPages(std::vector<Finding>& findings) const {
-  if (surroundings_.IsPage.none()) return;
-  if (!surroundings_.IsPage[1]) {
-    Add(findings, 1, Field::Page, "The page is empty, so no page is reached from it.");
-    return;
-  }
-  const std::bitset<kLastPage + 1> reached = ReachedPages();
-  for (std::size_t page = 1; page <= kLastPage; ++page) {
-    if (surroundings_.IsPage[page] && !reached[page])
-      Add(findings, static_cast<int>(page), Field::Page, "No links lead here from page 001.");
+void ProjectCheck::AddUnreached(int page, const Pages& reached, std::vector<Finding>& findings) const {
+  const bool is_page = surroundings_.IsPage[static_cast<std::size_t>(page)];
+  if (page == 1 && !is_page && surroundings_.IsPage.any()) {
+    Add(findings, page, Field::Page, "The page is empty, so no page is reached from it.");
+  } else if (surroundings_.IsPage[1] && is_page && !reached[static_cast<std::size_t>(page)]) {
+    Add(findings, page, Field::Page, "No links lead here from page 001.");
   }
 }
 
 std::vector<Finding> CheckProject(const Global& global, const CodePage& code_page,
                                   const PublishOptions& options, int other_notes) {
   return std::make_unique<ProjectCheck>()->Run(global, code_page, options, other_notes);
+}
+
+std::vector<Finding> CheckPublishing(const Global& global, const CodePage& code_page, int other_notes) {
+  std::vector<Finding> findings;
+  int notes = other_notes;
+  PageParts parts;
+  for (int page = 1; page <= kLastPage; ++page) {
+    if (global.Page(page).empty()) continue;
+    ++notes;
+    ReadParts(global.Page(page), parts);
+    if (CanBePublished(global, page, parts)) continue;
+    const std::vector<Finding> found = CheckPage(global, page, parts, code_page).Findings;
+    std::copy_if(found.begin(), found.end(), std::back_inserter(findings), StopsPublishing);
+  }
+  CheckNumberOfNotes(notes, findings);
+  return findings;
 }
 
 }  // namespace tavrel

@@ -21,6 +21,8 @@ class ProjectCheck {
                            int other_notes = 0);
 
  private:
+  using Pages = std::bitset<kLastPage + 1>;
+
   struct CheckedPage {
     Record Bytes;
     PageReport Report;
@@ -28,15 +30,15 @@ class ProjectCheck {
 
   /// What the findings of a page depend on besides the page.
   struct Surroundings {
-    std::bitset<kLastPage + 1> IsPage;
+    Pages IsPage;
     std::array<Record, kLastMusicLink + 1> MusicLinks;
     PublishOptions Options;
   };
 
   void Renew(const Global& global, const PublishOptions& options);
   void CheckPages(const Global& global, const CodePage& code_page);
-  std::bitset<kLastPage + 1> ReachedPages() const;
-  void AddUnreachedPages(std::vector<Finding>& findings) const;
+  Pages ReachedPages() const;
+  void AddUnreached(int page, const Pages& reached, std::vector<Finding>& findings) const;
   CheckedPage& At(int page) { return pages_.at(static_cast<std::size_t>(page)); }
   const CheckedPage& At(int page) const { return pages_.at(static_cast<std::size_t>(page)); }
 
@@ -47,5 +49,8 @@ class ProjectCheck {
 /// The same, once.
 std::vector<Finding> CheckProject(const Global& global, const CodePage& code_page,
                                   const PublishOptions& options, int other_notes = 0);
+
+/// Of the same only what stops publishing, and that there are too many notes. It takes less time.
+std::vector<Finding> CheckPublishing(const Global& global, const CodePage& code_page, int other_notes);
 
 }  // namespace tavrel

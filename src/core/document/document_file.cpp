@@ -52,7 +52,8 @@ std::optional<int> EntryIndex(std::string_view field, int last, Damage damage) {
 
 using Entries = std::vector<std::pair<int, std::string>>;
 
-Entries ReadMusicLinks(LineReader& lines, Damage damage) {
+template <class Lines>
+Entries ReadMusicLinks(Lines& lines, Damage damage) {
   Entries music_links;
   while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
@@ -66,7 +67,8 @@ Entries ReadMusicLinks(LineReader& lines, Damage damage) {
       "Restore its backup (File > Restore) or repair it in a text editor.");
 }
 
-Entries ReadPages(LineReader& lines, Damage damage) {
+template <class Lines>
+Entries ReadPages(Lines& lines, Damage damage) {
   Entries pages;
   while (!lines.AtEnd()) {
     const StoredLine line = Split(lines.Next());
@@ -76,8 +78,8 @@ Entries ReadPages(LineReader& lines, Damage damage) {
   return pages;
 }
 
-void ReadText(std::string_view text, Global& global, Damage damage) {
-  LineReader lines(text);
+template <class Lines>
+void ReadLines(Lines lines, Global& global, Damage damage) {
   Entries music_links = ReadMusicLinks(lines, damage);
   Entries pages = ReadPages(lines, damage);
   for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
@@ -109,9 +111,10 @@ DocumentLines LinesOf(std::string_view text) {
 
 void LoadDocument(Global& global) {
   const std::filesystem::path file = DocumentFile(global);
-  const std::string text = ReadWholeFile(file);
   try {
-    ReadDocumentText(text, global);
+    ReadDocumentFile(file, global);
+  } catch (const FileError&) {
+    throw;
   } catch (const RunTimeError& error) {
     throw RunTimeError(PathText(file) + "\n" + error.what());
   }
@@ -156,12 +159,16 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
   return text;
 }
 
+void ReadDocumentFile(const std::filesystem::path& file, Global& global) {
+  ReadLines(FileLineReader(file), global, Damage::Refused);
+}
+
 void ReadDocumentText(std::string_view text, Global& global) {
-  ReadText(text, global, Damage::Refused);
+  ReadLines(LineReader(text), global, Damage::Refused);
 }
 
 void SalvageDocumentText(std::string_view text, Global& global) {
-  ReadText(text, global, Damage::Skipped);
+  ReadLines(LineReader(text), global, Damage::Skipped);
 }
 
 }  // namespace tavrel

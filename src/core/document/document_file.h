@@ -33,6 +33,9 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
 /// the text ends before the empty line.
 void ReadDocumentText(std::string_view text, Global& global);
 
+/// The same from a file, of which only a part at a time is kept in memory. Throws FileError, too.
+void ReadDocumentFile(const std::filesystem::path& file, Global& global);
+
 /// The lines of a document file, from 1, that pages stand in; 0 for those that it does not have.
 struct DocumentLines {
   std::array<int, 1001> Pages{};

@@ -9,32 +9,27 @@
 namespace tavrel {
 namespace {
 
-InlineLink LinkAt(std::string_view text, std::size_t opening, std::size_t next) {
-  const bool is_closed = next != kNotFound && text[next] == '>';
-  const std::size_t end = is_closed ? next + 1 : opening + 1;
-  const std::size_t words = is_closed ? next - opening - 1 : 0;
-  return {opening, end - opening, text.substr(opening + 1, words), is_closed};
-}
-
 /// Reads a record once from its start to its end. It finds what a walker for each tag would: an element ends
 /// at the next closing tag of its kind, whatever opens in between.
 class PartsReader {
  public:
-  explicit PartsReader(std::string_view record) : record_(record) { parts_.Links.reserve(kUsualLinks); }
+  PartsReader(std::string_view record, PageParts& parts) : record_(record), parts_(parts) {
+    std::vector<PageParts::Link> links = std::move(parts.Links);
+    links.clear();
+    links.reserve(kUsualLinks);
+    parts = {};
+    parts.Links = std::move(links);
+  }
 
-  PageParts Run() {
-    for (std::size_t at = record_.find('<'); at != kNotFound; at = record_.find('<', at + 1)) {
-      const bool closes = at + 1 < record_.size() && record_[at + 1] == '/';
-      const std::size_t name = at + (closes ? 2 : 1);
-      const Kind kind = KindOf(record_.substr(name));
-      if (kind == Kind::None) continue;
-      closes ? Close(kind, at) : Open(kind, at, name + kNames.at(Index(kind)).size());
+  void Run() {
+    for (std::size_t at = BracketFrom(0); at != kNotFound;) {
+      const std::size_t behind_links = PassWholeLinks(at);
+      at = BracketFrom(behind_links == at ? PassTag(at) : behind_links);
     }
     for (std::size_t kind = 0; kind < kNames.size(); ++kind) Forget(static_cast<Kind>(kind));
     const auto start = static_cast<std::size_t>(list_.data() == nullptr ? 0 : list_.data() - record_.data());
     parts_.AreLinksListed = parts_.Links.empty() || (list_.data() != nullptr && first_link_ >= start &&
                                                      last_link_ < start + list_.size());
-    return std::move(parts_);
   }
 
  private:
@@ -58,6 +53,69 @@ class PartsReader {
     if (text.starts_with("note>")) return Kind::Note;
     if (text.starts_with("text>")) return Kind::Text;
     return text.starts_with("music>") ? Kind::Music : Kind::None;
+  }
+
+  /// The next "<". Most stand near: right behind another tag or behind the target of a link.
+  std::size_t BracketFrom(std::size_t at) const {
+    constexpr std::size_t kNear = 4;
+    const std::size_t far = std::min(at + kNear, record_.size());
+    for (; at < far; ++at) {
+      if (record_[at] == '<') return at;
+    }
+    return record_.find('<', at);
+  }
+
+  /// Goes behind what begins with the "<" at a place.
+  std::size_t PassTag(std::size_t at) {
+    const bool closes = at + 1 < record_.size() && record_[at + 1] == '/';
+    const std::size_t name = at + (closes ? 2 : 1);
+    const Kind kind = KindOf(record_.substr(name));
+    if (kind == Kind::None) return name;
+    closes ? Close(kind, at) : Open(kind, at, name + kNames.at(Index(kind)).size());
+    return name + kNames.at(Index(kind)).size();
+  }
+
+  /// Goes behind the links that stand from a place on as the editor writes them; if none does, nowhere.
+  /// Nearly all of a record's tags belong to such links.
+  std::size_t PassWholeLinks(std::size_t at) {
+    if (IsLinkUnderWay()) return at;
+    const std::size_t before = parts_.Links.size();
+    const std::size_t start = at;
+    while (PassWholeLink(at)) continue;
+    if (parts_.Links.size() == before) return at;
+    for (const Kind kind : {Kind::LinkText, Kind::LinkTo})
+      opened_.at(Index(kind)) = closed_.at(Index(kind)) = parts_.Links.size();
+    first_link_ = std::min(first_link_, start);
+    last_link_ = at - 1;
+    return at;
+  }
+
+  bool PassWholeLink(std::size_t& at) {
+    constexpr std::string_view kOpening = "<linktext>";
+    constexpr std::string_view kBetween = "</linktext><linkto>";
+    constexpr std::string_view kClosing = "</linkto>";
+    if (!IsTextAt(kOpening, at)) return false;
+    const std::size_t words = at + kOpening.size();
+    const std::size_t words_end = BracketFrom(words);
+    if (!IsTextAt(kBetween, words_end)) return false;
+    const std::size_t target = words_end + kBetween.size();
+    const std::size_t target_end = BracketFrom(target);
+    if (!IsTextAt(kClosing, target_end)) return false;
+    parts_.Links.push_back(
+        {record_.substr(words, words_end - words), record_.substr(target, target_end - target)});
+    at = target_end + kClosing.size();
+    return true;
+  }
+
+  bool IsTextAt(std::string_view text, std::size_t at) const {
+    return at < record_.size() && record_.substr(at).starts_with(text);
+  }
+
+  /// Whether a link has words and no target yet, or has not come to its end.
+  bool IsLinkUnderWay() const {
+    const auto is_whole = [whole = parts_.Links.size()](std::size_t count) { return count == whole; };
+    return !(is_whole(opened_.at(Index(Kind::LinkText))) && is_whole(closed_.at(Index(Kind::LinkText))) &&
+             is_whole(opened_.at(Index(Kind::LinkTo))) && is_whole(closed_.at(Index(Kind::LinkTo))));
   }
 
   /// Where the content of the element goes; null if nobody asks for it.
@@ -107,7 +165,7 @@ class PartsReader {
   }
 
   std::string_view record_;
-  PageParts parts_;
+  PageParts& parts_;
   std::string_view list_;  ///< the first list of links
   std::array<std::size_t, kNames.size()> opened_{};
   std::array<std::size_t, kNames.size()> closed_{};
@@ -122,38 +180,14 @@ std::size_t PageParts::PublishedLinks() const {
   return static_cast<std::size_t>(std::find_if(Links.begin(), Links.end(), incomplete) - Links.begin());
 }
 
+void ReadParts(std::string_view record, PageParts& parts) {
+  PartsReader(record, parts).Run();
+}
+
 PageParts PartsOf(std::string_view record) {
-  return PartsReader(record).Run();
-}
-
-std::size_t FindBracket(std::string_view text, std::size_t from) {
-  // In parts: one of the two may be far away where the other is near.
-  constexpr std::size_t kPart = 256;
-  for (; from < text.size(); from += kPart) {
-    const std::string_view part = text.substr(from, kPart);
-    const std::size_t closing = part.find('>');
-    const std::size_t bracket = std::min(closing, part.substr(0, closing).find('<'));
-    if (bracket != kNotFound) return from + bracket;
-  }
-  return kNotFound;
-}
-
-Brackets BracketsOf(std::string_view text) {
-  Brackets brackets;
-  const std::size_t first = FindBracket(text, 0);
-  brackets.AreLinks = first != kNotFound && text[first] == '<' && text.find('>') != kNotFound;
-  bool is_open = false;
-  for (std::size_t at = first; at != kNotFound;) {
-    const std::size_t next = FindBracket(text, at + 1);
-    if (text[at] == '<') {
-      brackets.Links.push_back(LinkAt(text, at, next));
-    } else if (!is_open) {
-      brackets.LoneClosings.push_back(at);
-    }
-    is_open = text[at] == '<';
-    at = next;
-  }
-  return brackets;
+  PageParts parts;
+  ReadParts(record, parts);
+  return parts;
 }
 
 }  // namespace tavrel

@@ -26,25 +26,7 @@ struct PageParts {
 };
 
 PageParts PartsOf(std::string_view record);
-
-/// A link in a text: "<words>".
-struct InlineLink {
-  std::size_t Position;    ///< of the "<"
-  std::size_t Length;      ///< up to the ">" and with it; 1 if there is none
-  std::string_view Words;  ///< between the brackets
-  bool IsClosed;           ///< a ">" comes before the next "<"
-};
-
-/// What publishing makes of the brackets of a text.
-struct Brackets {
-  bool AreLinks = false;                  ///< else they are published as they stand
-  std::vector<InlineLink> Links;          ///< the k-th takes the page's k-th link
-  std::vector<std::size_t> LoneClosings;  ///< positions of each ">" that closes nothing
-};
-
-Brackets BracketsOf(std::string_view text);
-
-/// The first "<" or ">" from a place on, as text.find_first_of("<>", from) finds it, which takes long.
-std::size_t FindBracket(std::string_view text, std::size_t from);
+/// The same, in the memory of parts that are not needed any more.
+void ReadParts(std::string_view record, PageParts& parts);
 
 }  // namespace tavrel

@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "core/document/brackets.h"
 #include "core/document/markup.h"
 #include "core/document/page_parts.h"
 #include "core/ipod/folder_store.h"
@@ -22,12 +23,29 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view kNotesMenu = "\\";
 
-void AppendAnchor(std::string& note, std::string_view address, std::string_view text) {
+/// Takes a note's length instead of its bytes.
+class Length {
+ public:
+  // As strings call it.
+  // NOLINTNEXTLINE(readability-identifier-naming)
+  Length& append(std::string_view more) {
+    bytes_ += more.size();
+    return *this;
+  }
+  std::size_t Bytes() const { return bytes_; }
+
+ private:
+  std::size_t bytes_ = 0;
+};
+
+template <class Note>
+void AppendAnchor(Note& note, std::string_view address, std::string_view text) {
   note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
 }
 
 /// Opens an anchor to a link's target: the note of a page, or music.
-void AppendLinkOpening(std::string& note, const Global& global, std::string_view target) {
+template <class Note>
+void AppendLinkOpening(Note& note, const Global& global, std::string_view target) {
   note.append("<a href=\"");
   if (Value(target) > 0) {
     note.append("z").append(target).append(".txt");
@@ -37,17 +55,20 @@ void AppendLinkOpening(std::string& note, const Global& global, std::string_view
   note.append("\">");
 }
 
-void AppendTitleLine(std::string& note, int page, std::string_view title) {
+template <class Note>
+void AppendTitleLine(Note& note, int page, std::string_view title) {
   note.append("<title>").append(page == 1 ? "-" : "").append(title).append("</title>").append(kLineEnd);
 }
 
-void AppendMusic(std::string& note, const Global& global, const PageParts& parts) {
+template <class Note>
+void AppendMusic(Note& note, const Global& global, const PageParts& parts) {
   if (parts.MusicText.empty()) return;
   AppendAnchor(note, GetMusic(global, parts.MusicLink), parts.MusicText);
   note.append(kLineEnd);
 }
 
-void AppendPageLinks(std::string& note, const Global& global, const PageParts& parts) {
+template <class Note>
+void AppendPageLinks(Note& note, const Global& global, const PageParts& parts) {
   const std::size_t published = parts.PublishedLinks();
   for (std::size_t link = 0; link < published; ++link) {
     AppendLinkOpening(note, global, parts.Links[link].Target);
@@ -55,24 +76,42 @@ void AppendPageLinks(std::string& note, const Global& global, const PageParts& p
   }
 }
 
-void AppendText(std::string& note, const Global& global, std::string_view text, const PageParts& parts) {
-  const std::size_t first = FindBracket(text, 0);
-  if (first == std::string_view::npos || text[first] == '>' || text.find('>') == std::string_view::npos) {
+template <class Note>
+void AppendText(Note& note, const Global& global, std::string_view text, const PageParts& parts) {
+  BracketWalker brackets(text);
+  if (!brackets.AreLinks()) {
     note.append(text);
     return;
   }
   std::size_t link = 0;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t bracket = FindBracket(text, at);
-    note.append(text.substr(at, bracket - at));
-    if (bracket == std::string_view::npos) break;
-    if (text[bracket] == '<') {
+  std::size_t copied = 0;
+  for (std::size_t at = brackets.Next(); at != std::string_view::npos; at = brackets.Next()) {
+    note.append(text.substr(copied, at - copied));
+    if (text[at] == '<') {
       AppendLinkOpening(note, global, link < parts.Links.size() ? parts.Links[link].Target : "");
       ++link;
     } else {
       note.append("</a>");
     }
-    at = bracket + 1;
+    copied = at + 1;
+  }
+  note.append(text.substr(copied));
+}
+
+template <class Note>
+void AppendNote(Note& note, const Global& global, int page, const PageParts& parts,
+                const PublishOptions& options) {
+  AppendTitleLine(note, page, parts.Title);
+  note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
+  if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
+
+  AppendMusic(note, global, parts);
+  AppendText(note, global, parts.Text, parts);
+  note.append(kLineEnd);
+  AppendPageLinks(note, global, parts);
+  if (options.NotesMenuLink) {
+    AppendAnchor(note, kNotesMenu, "Notes menu");
+    note.append(kLineEnd);
   }
 }
 
@@ -120,27 +159,18 @@ std::string NoteTitleLine(const Global& global, int page) {
 }
 
 std::string NoteText(const Global& global, int page, const PublishOptions& options) {
-  return NoteTextOf(global, page, PartsOf(global.Page(page)), options);
-}
-
-std::string NoteTextOf(const Global& global, int page, const PageParts& parts,
-                       const PublishOptions& options) {
   std::string note;
   const std::size_t size = global.Page(page).size();
   note.reserve(size + size / 4);
-  AppendTitleLine(note, page, parts.Title);
-  note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
-  if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
-
-  AppendMusic(note, global, parts);
-  AppendText(note, global, parts.Text, parts);
-  note.append(kLineEnd);
-  AppendPageLinks(note, global, parts);
-  if (options.NotesMenuLink) {
-    AppendAnchor(note, kNotesMenu, "Notes menu");
-    note.append(kLineEnd);
-  }
+  AppendNote(note, global, page, PartsOf(global.Page(page)), options);
   return note;
+}
+
+std::size_t NoteLength(const Global& global, int page, const PageParts& parts,
+                       const PublishOptions& options) {
+  Length length;
+  AppendNote(length, global, page, parts, options);
+  return length.Bytes();
 }
 
 int OtherNotes(const Global& global, const fs::path& folder, const CodePage& code_page) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -35,8 +36,8 @@ std::string NoteTitleLine(const Global& global, int page);
 
 /// The bytes of a page's note file.
 std::string NoteText(const Global& global, int page, const PublishOptions& options);
-/// The same of a page that has been taken apart.
-std::string NoteTextOf(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
+/// How many bytes these are. `parts` are the page's.
+std::size_t NoteLength(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
 
 /// How many notes of a folder no page rewrites. An iPod shows them beside those of the pages.
 int OtherNotes(const Global& global, const std::filesystem::path& folder, const CodePage& code_page);

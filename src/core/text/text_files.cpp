@@ -1,73 +1,74 @@
 #include "core/text/text_files.h"
 
-#include <cerrno>
-#include <cstdint>
-#include <cstdio>
-#include <memory>
 #include <system_error>
-
-#include "core/text/run_time_error.h"
 
 namespace tavrel {
 namespace {
 
-namespace fs = std::filesystem;
-
-struct CloseFile {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using OpenedFile = std::unique_ptr<std::FILE, CloseFile>;
-
-OpenedFile OpenForReading(const fs::path& file) {
-#ifdef _WIN32
-  return OpenedFile(_wfopen(file.c_str(), L"rb"));
-#else
-  return OpenedFile(std::fopen(file.c_str(), "rb"));
-#endif
-}
-
-[[noreturn]] void ThrowUnreadable(const fs::path& file, int error) {
-  throw FileError(file, "could not be read", std::error_code(error, std::generic_category()));
+std::string_view WithoutReturn(std::string_view line) {
+  if (line.ends_with('\r')) line.remove_suffix(1);
+  return line;
 }
 
 }  // namespace
 
-std::string ReadWholeFile(const fs::path& file) {
-  std::error_code error;
-  const fs::file_status status = fs::status(file, error);
-  if (fs::exists(status) && !fs::is_regular_file(status) && !fs::is_directory(status)) {
-    // A pipe would wait for somebody to write to it, and a device may never end.
-    ThrowUnreadable(file, EOPNOTSUPP);
-  }
-  errno = 0;
-  const OpenedFile opened = OpenForReading(file);
-  if (!opened) ThrowUnreadable(file, errno);
+std::string ReadWholeFile(const std::filesystem::path& file) {
+  OpenedFile opened(file);
   // The size is only where to begin: the file may grow or shrink while it is read.
-  const std::uintmax_t size = fs::file_size(file, error);
-  if (error == std::errc::is_a_directory) ThrowUnreadable(file, EISDIR);
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(file, error);
   std::string bytes(error ? 1 : static_cast<std::size_t>(size), '\0');
-  std::setvbuf(opened.get(), nullptr, _IONBF, 0);
   std::size_t length = 0;
   while (true) {
-    length += std::fread(bytes.data() + length, 1, bytes.size() - length, opened.get());
+    length += opened.Read(bytes.data() + length, bytes.size() - length);
     if (length < bytes.size()) break;
-    const int next = std::fgetc(opened.get());
-    if (next == EOF) break;
+    char next = 0;
+    if (opened.Read(&next, 1) == 0) break;
     bytes.resize(bytes.size() * 2 + 1);
-    bytes[length++] = static_cast<char>(next);
+    bytes[length++] = next;
   }
-  if (std::ferror(opened.get()) != 0) ThrowUnreadable(file, errno);
   bytes.resize(length);
   return bytes;
 }
 
 std::string_view LineReader::Next() {
   const std::size_t feed = rest_.find('\n');
-  std::string_view line = rest_.substr(0, feed);
-  rest_.remove_prefix(feed == std::string_view::npos ? rest_.size() : feed + 1);
-  const bool ended = feed != std::string_view::npos;
-  if (ended && line.ends_with('\r')) line.remove_suffix(1);
-  return line;
+  const std::string_view line = rest_.substr(0, feed);
+  if (feed == std::string_view::npos) {
+    rest_ = {};
+    return line;
+  }
+  rest_.remove_prefix(feed + 1);
+  return WithoutReturn(line);
+}
+
+std::string_view FileLineReader::Next() {
+  std::size_t searched = at_;
+  std::size_t feed = part_.find('\n', searched);
+  while (feed == std::string::npos) {
+    searched = part_.size() - at_;
+    if (!ReadMore()) break;
+    feed = part_.find('\n', searched);
+  }
+  const std::string_view rest = std::string_view(part_).substr(at_);
+  if (feed == std::string::npos) {
+    at_ = part_.size();
+    return rest;
+  }
+  const std::string_view line = rest.substr(0, feed - at_);
+  at_ = feed + 1;
+  return WithoutReturn(line);
+}
+
+/// Reads the next part behind what has not been given out.
+bool FileLineReader::ReadMore() {
+  constexpr std::size_t kPart = 64 * 1024;
+  part_.erase(0, at_);
+  at_ = 0;
+  const std::size_t kept = part_.size();
+  part_.resize(kept + kPart);
+  part_.resize(kept + file_.Read(part_.data() + kept, kPart));
+  return part_.size() > kept;
 }
 
 }  // namespace tavrel

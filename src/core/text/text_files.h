@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/text/opened_file.h"
+
 namespace tavrel {
 
 /// How every line of a file that the program writes ends.
@@ -26,6 +28,25 @@ class LineReader {
 
  private:
   std::string_view rest_;
+};
+
+/// The same of a file, of which only a part is kept in memory.
+class FileLineReader {
+ public:
+  /// This and the others throw FileError.
+  explicit FileLineReader(const std::filesystem::path& file) : file_(file) {}
+
+  bool AtEnd() { return at_ == part_.size() && !ReadMore(); }
+
+  /// The next line without its end, to be used before anything else is asked for.
+  std::string_view Next();
+
+ private:
+  bool ReadMore();
+
+  OpenedFile file_;
+  std::string part_;    ///< what was read last
+  std::size_t at_ = 0;  ///< where the next line starts in it
 };
 
 }  // namespace tavrel

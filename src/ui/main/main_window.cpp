@@ -243,7 +243,7 @@ void Main::ShowPart(const FieldPart& part) {
   page_->Select(shown);
 }
 
-/// Nothing is stored, which would throw half-typed links away.
+/// To store the page and show it anew would throw half-typed links away.
 void Main::SelectHere(FieldPart part) {
   const bool is_as_read = PageToStore() != BuildPage(StoredFields(), app_.CodePageInUse());
   if (!is_as_read) part.Link = grids_->RowOf(part.Link);

@@ -1,55 +1,14 @@
-#include "core/check/project_check.h"
-
 #include <algorithm>
 #include <gtest/gtest.h>
-#include <memory>
 #include <string>
 #include <vector>
+
+#include "core/check/project_check_fixture.h"
 
 // Each thing that would go wrong, with a project that shows it and one that does not.
 
 namespace tavrel::test {
 namespace {
-
-class ProjectCheckTest : public testing::Test {
- protected:
-  /// Page 1 with a title, so that only what a test adds is found.
-  void SetUp() override { SetPage(1, ""); }
-
-  void SetPage(int page, const std::string& more) { global_->Page(page) = "<title>T</title>" + more; }
-  void SetText(const std::string& text, const std::string& links = "") {
-    SetPage(1, "<text>" + text + "</text><link>" + links + "</link>");
-  }
-  static std::string Link(const std::string& text, const std::string& target) {
-    return "<linktext>" + text + "</linktext><linkto>" + target + "</linkto>";
-  }
-
-  std::vector<Finding> Findings(PublishOptions options = {}, int other_notes = 0) const {
-    return CheckProject(*global_, CodePage::Windows1252(), options, other_notes);
-  }
-
-  std::vector<std::string> Sentences() const {
-    std::vector<std::string> sentences;
-    for (const Finding& finding : Findings()) sentences.push_back(finding.Sentence);
-    return sentences;
-  }
-
-  void ExpectOne(Field where, int link, std::size_t position, std::size_t length,
-                 const std::string& sentence) {
-    const std::vector<Finding> findings = Findings();
-    ASSERT_EQ(findings.size(), 1U) << testing::PrintToString(Sentences());
-    EXPECT_EQ(findings[0].Page, 1);
-    EXPECT_EQ(findings[0].Where, where);
-    EXPECT_EQ(findings[0].Link, link);
-    EXPECT_EQ(findings[0].Position, position);
-    EXPECT_EQ(findings[0].Length, length);
-    EXPECT_EQ(findings[0].Sentence, sentence);
-  }
-
-  void ExpectNothing() { EXPECT_EQ(Sentences(), std::vector<std::string>()); }
-
-  std::unique_ptr<Global> global_ = std::make_unique<Global>();
-};
 
 TEST_F(ProjectCheckTest, AnEmptyProjectIsSound) {
   global_->Page(1).clear();
@@ -149,6 +108,15 @@ TEST_F(ProjectCheckTest, ThePagesOwnMusic) {
   ExpectOne(Field::MusicLink, 0, 0, 2, "Music link M6 is empty, so the link leads to the Notes menu.");
   SetPage(1, "<music>Listen</music>");
   ExpectOne(Field::MusicLink, 0, 0, 0, "The music has no music link, so it leads to the Notes menu.");
+}
+
+TEST_F(ProjectCheckTest, LinksThatLeadNowhere) {
+  global_->MusicLink(5) = "<song>S</song>";
+  SetText("", Link("a", "007") + Link("b", "000") + Link("c", "1000") + Link("d", "M9") + Link("e", "M5") +
+                  Link("f", "001"));
+  const std::vector<Finding> findings = Findings();
+  EXPECT_EQ(std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.LeadsNowhere; }),
+            3);
 }
 
 TEST_F(ProjectCheckTest, LinksBehindOneWithoutWordsAreDropped) {
@@ -251,102 +219,6 @@ TEST_F(ProjectCheckTest, WithoutPage1NothingIsReached) {
   global_->Page(1).clear();
   SetPage(2, "");
   ExpectOne(Field::Page, 0, 0, 0, "The page is empty, so no page is reached from it.");
-}
-
-TEST_F(ProjectCheckTest, CharactersOutsideLatin1) {
-  SetText("caf\xE9 \xA3");
-  ExpectNothing();
-  SetText("a \x93quote\x94");
-  ExpectOne(Field::Text, 0, 2, 1, "An iPod may not show 2 of the characters.");
-  SetText("1 \x80");
-  ExpectOne(Field::Text, 0, 2, 1, "An iPod may not show one of the characters.");
-}
-
-TEST_F(ProjectCheckTest, CharactersOfANoteToOneselfDoNotCount) {
-  SetPage(1, "<note>\x93</note>");
-  ExpectNothing();
-}
-
-TEST_F(ProjectCheckTest, ATagTypedIntoATitle) {
-  global_->Page(1) = "<title>a<note>b</title>";
-  ExpectOne(Field::Title, 0, 1, 6, "<note> cannot stand in a page.");
-}
-
-TEST_F(ProjectCheckTest, WordsInBracketsThatLookLikeATagOfAnotherPlace) {
-  SetText("see <link> and <text> here", Link("link", "001") + Link("text", "001"));
-  ExpectNothing();
-}
-
-TEST_F(ProjectCheckTest, ATagTypedIntoAText) {
-  global_->Page(1) = "<title>T</title><text>a</link>b</text>";
-  const std::vector<std::string> sentences = Sentences();
-  EXPECT_EQ(std::count(sentences.begin(), sentences.end(), "</link> cannot stand in a page."), 1);
-}
-
-TEST_F(ProjectCheckTest, BracketsInTheWordsOfALinkOrOfMusic) {
-  global_->MusicLink(5) = "<song>S</song>";
-  SetText("", Link("a > b", "001"));
-  ExpectNothing();
-  SetText("", Link("a <b> c", "001"));
-  ExpectOne(Field::LinkText, 1, 2, 1, "An iPod takes the < for the beginning of a tag.");
-  SetPage(1, "<music>b < c</music><music>M5</music>");
-  ExpectOne(Field::MusicText, 0, 2, 1, "An iPod takes the < for the beginning of a tag.");
-}
-
-TEST_F(ProjectCheckTest, AQuotationMarkInMusic) {
-  global_->MusicLink(5) = "<song>S</song><notes>\"remember\"</notes>";
-  SetText("", Link("x", "M5"));
-  ExpectNothing();
-  global_->MusicLink(5) = "<song>The \"Best\"</song>";
-  ExpectOne(Field::LinkTarget, 1, 0, 2,
-            "A name in music link M5 holds a quotation mark, at which an iPod ends the link.");
-}
-
-TEST_F(ProjectCheckTest, LinksThatLeadNowhere) {
-  global_->MusicLink(5) = "<song>S</song>";
-  SetText("", Link("a", "007") + Link("b", "000") + Link("c", "1000") + Link("d", "M9") + Link("e", "M5") +
-                  Link("f", "001"));
-  const std::vector<Finding> findings = Findings();
-  EXPECT_EQ(std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.LeadsNowhere; }),
-            3);
-}
-
-TEST_F(ProjectCheckTest, ATagTypedIntoANote) {
-  global_->Page(1) = "<title>T</title><note>a<text>b</note><text>x</text>";
-  const std::vector<std::string> sentences = Sentences();
-  EXPECT_NE(std::find(sentences.begin(), sentences.end(), "<text> cannot stand in a page."), sentences.end());
-}
-
-TEST_F(ProjectCheckTest, WordsBehindAFieldsOwnClosingTag) {
-  global_->MusicLink(5) = "<song>S</song>";
-  global_->Page(1) = "<title>ab</title>c</title>";
-  ExpectOne(Field::Title, 0, 2, 0, "What stands behind </title> is lost.");
-  SetPage(1, "<note>abc</note>d</note>");
-  ExpectOne(Field::Note, 0, 3, 0, "What stands behind </note> is lost.");
-  SetPage(1, "<text>a</text>b</text>");
-  ExpectOne(Field::Text, 0, 1, 0, "What stands behind </text> is lost.");
-  SetText("", Link("a", "001") + Link("b</linktext>c", "001"));
-  ExpectOne(Field::LinkText, 2, 1, 0, "What stands behind </linktext> is lost.");
-  SetText("", Link("a", "001</linkto>x"));
-  ExpectOne(Field::LinkTarget, 1, 3, 0, "What stands behind </linkto> is lost.");
-  SetPage(1, "<music>So</music>ng</music><music>M5</music>");
-  ExpectOne(Field::MusicText, 0, 2, 0, "What stands behind </music> is lost.");
-  SetPage(1, "<music>Song</music><music>M5</music>x</music>");
-  ExpectOne(Field::MusicLink, 0, 2, 0, "What stands behind </music> is lost.");
-}
-
-TEST_F(ProjectCheckTest, WordsInFrontOfAllFieldsOrInAFieldThatComesTwiceOrDoesNotEnd) {
-  global_->Page(1) = "words<title>T</title>";
-  ExpectOne(Field::Page, 0, 0, 0, "Words that stand in no field are lost.");
-  SetPage(1, "<title>U</title>");
-  ExpectOne(Field::Title, 0, 1, 0, "What stands behind </title> is lost.");
-  SetPage(1, "<text>never ended");
-  ExpectOne(Field::Title, 0, 1, 0, "What stands behind </title> is lost.");
-}
-
-TEST_F(ProjectCheckTest, BlanksBetweenTheFieldsAreNoWords) {
-  global_->Page(1) = " <title>T</title> \r\n <text>a</text>\r\n";
-  ExpectNothing();
 }
 
 TEST_F(ProjectCheckTest, TheLastMusicLinkIsNotStored) {

@@ -33,6 +33,12 @@ std::vector<std::string> Written(const std::vector<Finding>& findings) {
   return written;
 }
 
+/// Those that publishing asks for.
+std::vector<Finding> Severe(std::vector<Finding> findings) {
+  std::erase_if(findings, [](const Finding& f) { return !f.StopsPublishing && !f.TooManyNotes; });
+  return findings;
+}
+
 /// Somebody who changes a document in every way.
 class AnyCommands {
  public:
@@ -128,6 +134,7 @@ TEST(RandomRepeatedCheck, FindsAfterEveryCommandWhatAFreshCheckFinds) {
   constexpr int kCommands = 60;
   std::mt19937 random(10);
   std::size_t found = 0;
+  std::size_t stopped = 0;
   for (int document = 0; document < kDocuments; ++document) {
     const auto global = std::make_unique<Global>();
     const auto check = std::make_unique<ProjectCheck>();
@@ -142,9 +149,14 @@ TEST(RandomRepeatedCheck, FindsAfterEveryCommandWhatAFreshCheckFinds) {
       ASSERT_EQ(Written(check->Run(*global, CodePage::Windows1252(), options, other_notes)), Written(fresh))
           << "document " << document << ", command " << command;
       found += fresh.size();
+      const std::vector<Finding> severe = Severe(fresh);
+      ASSERT_EQ(Written(CheckPublishing(*global, CodePage::Windows1252(), other_notes)), Written(severe))
+          << "document " << document << ", command " << command;
+      stopped += severe.size();
     }
   }
   EXPECT_GT(found, 5000U);
+  EXPECT_GT(stopped, 50U);
 }
 
 }  // namespace

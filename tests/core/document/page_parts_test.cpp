@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/document/brackets.h"
 #include "core/document/markup.h"
 
 // A page is read in one go for what publishing asks for one tag after the other.
@@ -13,10 +14,30 @@ namespace tavrel::test {
 namespace {
 
 std::string RandomTags(std::mt19937& random) {
-  static const std::vector<std::string> pieces = {
-      "<title>", "</title>",   "<note>",      "</note>",  "<text>",    "</text>", "<link>",
-      "</link>", "<linktext>", "</linktext>", "<linkto>", "</linkto>", "<music>", "</music>",
-      "a",       "<",          "</",          ">",        "<b>",       "<link",   "007"};
+  static const std::vector<std::string> pieces = {"<title>",
+                                                  "</title>",
+                                                  "<note>",
+                                                  "</note>",
+                                                  "<text>",
+                                                  "</text>",
+                                                  "<link>",
+                                                  "</link>",
+                                                  "<linktext>",
+                                                  "</linktext>",
+                                                  "<linkto>",
+                                                  "</linkto>",
+                                                  "<music>",
+                                                  "</music>",
+                                                  "a",
+                                                  "<",
+                                                  "</",
+                                                  ">",
+                                                  "<b>",
+                                                  "<link",
+                                                  "007",
+                                                  "</linktext><linkto>",
+                                                  "<linktext>a</linktext><linkto>007</linkto>",
+                                                  "<linktext>b</linktext><linkto>008</linkto>"};
   std::string record;
   for (auto left = random() % 30; left > 0; --left) record += pieces[random() % pieces.size()];
   return record;
@@ -71,13 +92,19 @@ TEST(PartsOf, SaysThatAllLinksAreListedOnlyIfTheFirstListHoldsTheSame) {
   EXPECT_TRUE(PartsOf("<link><linktext>a</linktext><linkto>002</linkto></link>").AreLinksListed);
 }
 
-TEST(FindBracket, FindsTheFirstOfBothFromAPlaceOn) {
-  const std::string far = std::string(1000, 'a') + ">b<";
-  EXPECT_EQ(FindBracket(far, 0), 1000U);
-  EXPECT_EQ(FindBracket(far, 1001), 1002U);
-  EXPECT_EQ(FindBracket(far, 1003), std::string::npos);
-  EXPECT_EQ(FindBracket("", 0), std::string::npos);
-  EXPECT_EQ(FindBracket("<>", 1), 1U);
+TEST(BracketWalker, MeetsBothKindsInTheirOrder) {
+  const std::string text = std::string(1000, 'a') + ">b<<";
+  BracketWalker walker(text);
+  for (const std::size_t place : {std::size_t{1000}, std::size_t{1002}, std::size_t{1003}, std::string::npos})
+    EXPECT_EQ(walker.Next(), place);
+  EXPECT_EQ(walker.Next(), std::string::npos);
+  EXPECT_EQ(BracketWalker("").Next(), std::string::npos);
+}
+
+TEST(BracketWalker, LinksBeginWithAnOpeningBracketAndThereIsAClosingOne) {
+  EXPECT_TRUE(BracketWalker("a <b> c").AreLinks());
+  for (const char* text : {"", "a", "a < b", "a > b", "> <", "><>"})
+    EXPECT_FALSE(BracketWalker(text).AreLinks()) << text;
 }
 
 }  // namespace

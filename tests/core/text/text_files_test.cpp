@@ -53,6 +53,43 @@ TEST(LineReader, KeepsEveryOtherByte) {
   EXPECT_EQ(LinesIn(line + "\r\n" + line + "\n"), (LineList{line, line}));
 }
 
+/// How much of a file is read at a time.
+constexpr std::size_t kPart = 64 * 1024;
+
+class FileLineReaderTest : public testing::Test {
+ protected:
+  /// Checks that a file with this text has the same lines.
+  void ExpectSameLines(const std::string& text) {
+    folder_.Write("file", text);
+    LineList lines;
+    for (FileLineReader reader(folder_.Path() / "file"); !reader.AtEnd();) lines.emplace_back(reader.Next());
+    EXPECT_TRUE(lines == LinesIn(text)) << text.size() << " bytes";
+  }
+
+  TemporaryFolder folder_;
+};
+
+TEST_F(FileLineReaderTest, GivesTheLinesOfShortFiles) {
+  for (const char* text : {"", "a", "\n", "\r\n", "a\r\nb", "a\rb\n\r", "\n\r\na\r\n\n"})
+    ExpectSameLines(text);
+}
+
+TEST_F(FileLineReaderTest, GivesLinesThatAreReadInSeveralParts) {
+  for (const std::size_t length : {kPart - 2, kPart - 1, kPart, kPart + 1, 3 * kPart, 3 * kPart + 7}) {
+    const std::string line(length, 'x');
+    for (const char* end : {"\n", "\r\n", "\r", ""}) {
+      ExpectSameLines(line + end);
+      ExpectSameLines("a\n" + line + end + "b");
+      ExpectSameLines(line + end + line + end);
+    }
+  }
+}
+
+TEST_F(FileLineReaderTest, TellsOfAFileThatIsMissing) {
+  EXPECT_THAT([&] { FileLineReader(folder_.Path() / "none"); },
+              ThrowsMessage<FileError>(HasSubstr("could not be read")));
+}
+
 TEST(ReadWholeFile, GivesEveryByte) {
   const TemporaryFolder folder;
   std::string bytes;

@@ -40,6 +40,16 @@ class ViewMemoryTest : public RememberedWindowTest {
     return "no tabs";
   }
 
+  /// What is remembered of a window whose panels are all open, the first of them floating.
+  QByteArray RememberedPanels() {
+    const auto window = NewWindow();
+    for (const char* item : kDockItems) Find<QAction>(*window, item).trigger();
+    Dock(*window, 0).setFloating(true);
+    Settle();
+    Remember(*window);
+    return Remembered(kPanelsKey).toByteArray();
+  }
+
   /// Checks that the window can be used: it is on the screen, and every panel can be opened and closed.
   static void ExpectUsable(Main& window, const std::string& what) {
     EXPECT_TRUE(window.screen()->availableGeometry().contains(window.pos())) << what;
@@ -224,28 +234,18 @@ TEST_F(ViewMemoryTest, PanelsThatAreNoneLeaveThemClosed) {
 
 /// Windows take long to make, so not every length is tried.
 TEST_F(ViewMemoryTest, PanelsThatAreCutOffLeaveAWindowThatCanBeUsed) {
-  auto window = NewWindow();
-  for (const char* item : kDockItems) Find<QAction>(*window, item).trigger();
-  Dock(*window, 0).setFloating(true);
-  Settle();
-  Remember(*window);
-  const QByteArray panels = Remembered(kPanelsKey).toByteArray();
+  const QByteArray panels = RememberedPanels();
   ASSERT_GT(panels.size(), 100);
   for (qsizetype size = 0; size < panels.size(); size += panels.size() / 11) {
     SetRemembered(kPanelsKey, panels.left(size));
-    window = NewWindow();
+    const auto window = NewWindow();
     ExpectUsable(*window, "the first " + std::to_string(size) + " bytes");
   }
 }
 
 /// More of them: the environment variable TAVREL_PANEL_STATES says how many.
 TEST_F(ViewMemoryTest, ChangedBytesLeaveAWindowThatCanBeUsed) {
-  auto window = NewWindow();
-  for (const char* item : kDockItems) Find<QAction>(*window, item).trigger();
-  Dock(*window, 0).setFloating(true);
-  Settle();
-  Remember(*window);
-  const QByteArray panels = Remembered(kPanelsKey).toByteArray();
+  const QByteArray panels = RememberedPanels();
   bool is_count = false;
   const int wanted = qEnvironmentVariableIntValue("TAVREL_PANEL_STATES", &is_count);
   std::mt19937 random(10);
@@ -254,7 +254,7 @@ TEST_F(ViewMemoryTest, ChangedBytesLeaveAWindowThatCanBeUsed) {
     const auto place = static_cast<qsizetype>(random() % static_cast<unsigned>(panels.size()));
     changed[place] = static_cast<char>(attempt % 3 == 0 ? 0x7F : attempt % 3 == 1 ? 0xFF : random());
     SetRemembered(kPanelsKey, changed);
-    window = NewWindow();
+    const auto window = NewWindow();
     ExpectUsable(*window, "byte " + std::to_string(place) + " in attempt " + std::to_string(attempt));
   }
 }

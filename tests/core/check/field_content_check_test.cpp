@@ -1,0 +1,89 @@
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "core/check/project_check_fixture.h"
+
+// Characters, tags and brackets in the fields of a page that an iPod or the project's file takes otherwise.
+
+namespace tavrel::test {
+namespace {
+
+TEST_F(ProjectCheckTest, CharactersOutsideLatin1) {
+  SetText("caf\xE9 \xA3");
+  ExpectNothing();
+  SetText("a \x93quote\x94");
+  ExpectOne(Field::Text, 0, 2, 1, "An iPod may not show 2 of the characters.");
+  SetText("1 \x80");
+  ExpectOne(Field::Text, 0, 2, 1, "An iPod may not show one of the characters.");
+}
+
+TEST_F(ProjectCheckTest, CharactersOfANoteToOneselfDoNotCount) {
+  SetPage(1, "<note>\x93</note>");
+  ExpectNothing();
+}
+
+TEST_F(ProjectCheckTest, ATagTypedIntoATitle) {
+  global_->Page(1) = "<title>a<note>b</title>";
+  ExpectOne(Field::Title, 0, 1, 6, "<note> cannot stand in a page.");
+}
+
+TEST_F(ProjectCheckTest, WordsInBracketsThatLookLikeATagOfAnotherPlace) {
+  SetText("see <link> and <text> here", Link("link", "001") + Link("text", "001"));
+  ExpectNothing();
+}
+
+TEST_F(ProjectCheckTest, ATagTypedIntoAText) {
+  global_->Page(1) = "<title>T</title><text>a</link>b</text>";
+  const std::vector<std::string> sentences = Sentences();
+  EXPECT_EQ(std::count(sentences.begin(), sentences.end(), "</link> cannot stand in a page."), 1);
+}
+
+TEST_F(ProjectCheckTest, BracketsInTheWordsOfALinkOrOfMusic) {
+  global_->MusicLink(5) = "<song>S</song>";
+  SetText("", Link("a > b", "001"));
+  ExpectNothing();
+  SetText("", Link("a <b> c", "001"));
+  ExpectOne(Field::LinkText, 1, 2, 1, "An iPod takes the < for the beginning of a tag.");
+  SetPage(1, "<music>b < c</music><music>M5</music>");
+  ExpectOne(Field::MusicText, 0, 2, 1, "An iPod takes the < for the beginning of a tag.");
+}
+
+TEST_F(ProjectCheckTest, ABracketOrAnotherLetterIsFoundWhereverItStands) {
+  for (std::size_t size = 1; size <= 20; ++size) {
+    // The neighbours of "<" and of the first letter beyond ASCII.
+    std::string words;
+    while (words.size() < size) words += words.size() % 3 == 0 ? '=' : words.size() % 3 == 1 ? ';' : '\x7F';
+    SetText("", Link(words, "001"));
+    ExpectNothing();
+    for (std::size_t place = 0; place < size; ++place) {
+      SCOPED_TRACE(std::to_string(place) + " of " + std::to_string(size));
+      words[place] = '<';
+      SetText("", Link(words, "001"));
+      ExpectOne(Field::LinkText, 1, place, 1, "An iPod takes the < for the beginning of a tag.");
+      words[place] = '\x80';
+      SetText("", Link(words, "001"));
+      ExpectOne(Field::LinkText, 1, place, 1, "An iPod may not show one of the characters.");
+      words[place] = '=';
+    }
+  }
+}
+
+TEST_F(ProjectCheckTest, AQuotationMarkInMusic) {
+  global_->MusicLink(5) = "<song>S</song><notes>\"remember\"</notes>";
+  SetText("", Link("x", "M5"));
+  ExpectNothing();
+  global_->MusicLink(5) = "<song>The \"Best\"</song>";
+  ExpectOne(Field::LinkTarget, 1, 0, 2,
+            "A name in music link M5 holds a quotation mark, at which an iPod ends the link.");
+}
+
+TEST_F(ProjectCheckTest, ATagTypedIntoANote) {
+  global_->Page(1) = "<title>T</title><note>a<text>b</note><text>x</text>";
+  const std::vector<std::string> sentences = Sentences();
+  EXPECT_NE(std::find(sentences.begin(), sentences.end(), "<text> cannot stand in a page."), sentences.end());
+}
+
+}  // namespace
+}  // namespace tavrel::test
