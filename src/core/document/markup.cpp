@@ -9,7 +9,7 @@ namespace {
 /// last characters are looked at before the whole is compared.
 std::size_t FindTag(std::string_view text, std::string_view tag, std::size_t from) {
   if (tag.size() < 2) return text.find(tag, from);
-  std::size_t at = text.find(tag.front(), from);
+  std::size_t at = FindNear(text, tag.front(), from);
   while (at != kNotFound && text.size() - at >= tag.size()) {
     if (text[at + 1] == tag[1] && text[at + tag.size() - 1] == tag.back() &&
         text.compare(at, tag.size(), tag) == 0) {
@@ -46,10 +46,10 @@ bool TagWalker::Next() {
 }
 
 void TagWalker::FindClosing() {
-  closing_ = text_.find(tag_.front(), content_start_);
+  closing_ = FindNear(text_, tag_.front(), content_start_);
   if (closing_ != kNotFound && text_.substr(closing_).starts_with(closing_tag_)) {
-    // Nothing opens in between, unless the tag overlaps itself.
-    if (tag_.find(tag_.front(), 1) == kNotFound) search_from_ = closing_ + 1;
+    // Nothing opens in between or inside, unless the tag overlaps itself.
+    if (closing_tag_.find(tag_.front(), 1) == kNotFound) search_from_ = closing_ + closing_tag_.size();
   } else if (closing_ != kNotFound) {
     closing_ = FindTag(text_, closing_tag_, closing_);
   }

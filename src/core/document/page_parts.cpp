@@ -55,15 +55,7 @@ class PartsReader {
     return text.starts_with("music>") ? Kind::Music : Kind::None;
   }
 
-  /// The next "<". Most stand near: right behind another tag or behind the target of a link.
-  std::size_t BracketFrom(std::size_t at) const {
-    constexpr std::size_t kNear = 4;
-    const std::size_t far = std::min(at + kNear, record_.size());
-    for (; at < far; ++at) {
-      if (record_[at] == '<') return at;
-    }
-    return record_.find('<', at);
-  }
+  std::size_t BracketFrom(std::size_t at) const { return FindNear(record_, '<', at); }
 
   /// Goes behind what begins with the "<" at a place.
   std::size_t PassTag(std::size_t at) {

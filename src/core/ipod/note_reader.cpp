@@ -107,7 +107,8 @@ void NoteReader::ProcessInput(std::string_view note, int page) {
   AnchorCutter anchors(content);
   std::string links;
   try {
-    links = ProcessAnchors(anchors);
+    links.reserve(note.size());
+    ProcessAnchors(anchors, links);
   } catch (const RunTimeError&) {
     line_ = LineAt(note, replacements.Undone(anchors.Opening()));
     throw;
@@ -119,14 +120,12 @@ void NoteReader::ProcessInput(std::string_view note, int page) {
   global_.Page(page) = std::move(record);
 }
 
-/// Takes all anchors out of a note and gives the links that become of them.
-std::string NoteReader::ProcessAnchors(AnchorCutter& anchors) {
-  std::string links;
+/// Takes all anchors out of a note and writes the links that become of them.
+void NoteReader::ProcessAnchors(AnchorCutter& anchors, std::string& links) {
   while (const std::optional<std::string> target = anchors.CutNext()) {
     links.append("<linktext></linktext>");
     AppendTag(links, "<linkto>", IsMusicAddress(*target) ? ProcessMusic(*target) : ProcessLink(*target));
   }
-  return links;
 }
 
 std::string NoteReader::ProcessLink(const std::string& target) const {

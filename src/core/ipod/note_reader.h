@@ -50,7 +50,7 @@ class NoteReader {
   std::string ProcessMusic(std::string_view target);
 
  private:
-  std::string ProcessAnchors(AnchorCutter& anchors);
+  void ProcessAnchors(AnchorCutter& anchors, std::string& links);
 
   Global& global_;
   const CodePage& code_page_;

@@ -1,7 +1,5 @@
 #include "core/text/text_files.h"
 
-#include <system_error>
-
 namespace tavrel {
 namespace {
 
@@ -13,19 +11,14 @@ std::string_view WithoutReturn(std::string_view line) {
 }  // namespace
 
 std::string ReadWholeFile(const std::filesystem::path& file) {
+  // Enough for a note. A file's size is not asked for: it may grow or shrink while it is read.
+  constexpr std::size_t kFirstPart = 8 * 1024;
   OpenedFile opened(file);
-  // The size is only where to begin: the file may grow or shrink while it is read.
-  std::error_code error;
-  const std::uintmax_t size = std::filesystem::file_size(file, error);
-  std::string bytes(error ? 1 : static_cast<std::size_t>(size), '\0');
-  std::size_t length = 0;
-  while (true) {
+  std::string bytes(kFirstPart, '\0');
+  std::size_t length = opened.Read(bytes.data(), bytes.size());
+  while (length == bytes.size()) {
+    bytes.resize(2 * length);
     length += opened.Read(bytes.data() + length, bytes.size() - length);
-    if (length < bytes.size()) break;
-    char next = 0;
-    if (opened.Read(&next, 1) == 0) break;
-    bytes.resize(bytes.size() * 2 + 1);
-    bytes[length++] = next;
   }
   bytes.resize(length);
   return bytes;
