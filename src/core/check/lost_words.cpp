@@ -95,6 +95,33 @@ class RecordWalk {
 
 }  // namespace
 
+bool IsAsWritten(std::string_view record, const PageParts& parts) {
+  std::size_t at = 0;
+  const auto pass = [&](std::string_view tag, std::string_view content) {
+    if (content.empty()) return true;
+    const auto start = static_cast<std::size_t>(content.data() - record.data());
+    if (start != at + tag.size()) return false;
+    at += 2 * tag.size() + 1 + content.size();
+    return true;
+  };
+  const auto pass_tag = [&](std::string_view tag) {
+    if (!record.substr(at).starts_with(tag)) return false;
+    at += tag.size();
+    return true;
+  };
+  const auto pass_link = [&](const PageParts::Link& link) {
+    return pass("<linktext>", link.Text) && pass("<linkto>", link.Target);
+  };
+  const auto pass_links = [&] {
+    return parts.Links.empty() ||
+           (pass_tag("<link>") && std::all_of(parts.Links.begin(), parts.Links.end(), pass_link) &&
+            pass_tag("</link>"));
+  };
+  return pass("<title>", parts.Title) && pass("<note>", parts.Note) && pass("<text>", parts.Text) &&
+         pass_links() && pass("<music>", parts.MusicText) && pass("<music>", parts.MusicLink) &&
+         at == record.size();
+}
+
 std::vector<LostWords> FindLostWords(std::string_view record) {
   return RecordWalk(record).Run();
 }

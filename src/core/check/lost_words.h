@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/document/field_part.h"
+#include "core/document/page_parts.h"
 
 namespace tavrel {
 
@@ -13,6 +14,10 @@ struct LostWords {
   FieldPart Behind;      ///< the end of the field that they follow; the page if they follow none
   std::string_view Tag;  ///< that ends the field, such as "</title>"; empty if nothing does
 };
+
+/// Whether a record holds its parts as the editor writes them, one behind the other, and nothing else. Then
+/// it has no lost words.
+bool IsAsWritten(std::string_view record, const PageParts& parts);
 
 /// In their order. The page's number in them is 0. The tags outlive everything.
 std::vector<LostWords> FindLostWords(std::string_view record);

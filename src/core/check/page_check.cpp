@@ -1,14 +1,13 @@
 #include "core/check/page_check.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstring>
 #include <string>
 #include <string_view>
 #include <utility>
 
 #include "core/check/link_target.h"
 #include "core/check/lost_words.h"
+#include "core/check/plain_text.h"
 #include "core/document/brackets.h"
 #include "core/document/page_parts.h"
 #include "core/document/page_record.h"
@@ -27,55 +26,6 @@ constexpr char32_t kLastOfLatin1 = 0xFF;
 
 std::string Words(std::string_view words) {
   return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
-}
-
-bool IsPlain(char c) {
-  return static_cast<unsigned char>(c) < 0x80 && c != '<';
-}
-
-/// Whether a text has only letters that every code page has in the same place, and no brackets. Most have.
-bool IsPlain(std::string_view text) {
-  // Eight bytes at a time. The highest bit of each then says that it is another letter, or was a bracket.
-  constexpr std::uint64_t kEach = 0x0101010101010101;
-  std::uint64_t found = 0;
-  if (text.size() < sizeof found)
-    return std::all_of(text.begin(), text.end(), [](char c) { return IsPlain(c); });
-  const auto look_at = [&](std::size_t at) {
-    std::uint64_t eight = 0;
-    std::memcpy(&eight, text.data() + at, sizeof eight);
-    const std::uint64_t zero_if_bracket = eight ^ (kEach * '<');
-    found |= eight | ((zero_if_bracket - kEach) & ~zero_if_bracket);
-  };
-  for (std::size_t at = 0; at + sizeof found < text.size(); at += sizeof found) look_at(at);
-  look_at(text.size() - sizeof found);
-  return (found & (kEach * 0x80)) == 0;
-}
-
-/// Whether a record holds its parts as the editor writes them, one behind the other, and nothing else.
-bool IsAsWritten(std::string_view record, const PageParts& parts) {
-  std::size_t at = 0;
-  const auto pass = [&](std::string_view tag, std::string_view content) {
-    if (content.empty()) return true;
-    if (content.data() != record.data() + at + tag.size()) return false;
-    at += 2 * tag.size() + 1 + content.size();
-    return true;
-  };
-  const auto pass_tag = [&](std::string_view tag) {
-    if (!record.substr(at).starts_with(tag)) return false;
-    at += tag.size();
-    return true;
-  };
-  const auto pass_link = [&](const PageParts::Link& link) {
-    return pass("<linktext>", link.Text) && pass("<linkto>", link.Target);
-  };
-  const auto pass_links = [&] {
-    return parts.Links.empty() ||
-           (pass_tag("<link>") && std::all_of(parts.Links.begin(), parts.Links.end(), pass_link) &&
-            pass_tag("</link>"));
-  };
-  return pass("<title>", parts.Title) && pass("<note>", parts.Note) && pass("<text>", parts.Text) &&
-         pass_links() && pass("<music>", parts.MusicText) && pass("<music>", parts.MusicLink) &&
-         at == record.size();
 }
 
 /// Looks at one page.
