@@ -22,9 +22,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A project and its file.
+/// A project, and the lines of its file that its pages stand in.
 struct Project {
   fs::path File;
+  DocumentLines Lines;
   Global State;
 };
 
@@ -32,14 +33,14 @@ std::unique_ptr<Project> Read(const fs::path& file) {
   auto project = std::make_unique<Project>();
   project->File = file;
   try {
-    ReadDocumentFile(file, project->State);
+    ReadDocumentFile(file, project->State, project->Lines);
   } catch (const FileError&) {
     throw;
   } catch (const RunTimeError& error) {
     // The editor's advice behind the fault is for its own menus.
     const std::string told = error.what();
     throw TaskError(
-        MessageAbout(file, LinesOf(ReadWholeFile(file)).Damaged,
+        MessageAbout(file, project->Lines.Read,
                      told.substr(0, told.find('\n')) + " Restore its backup or repair it in a text editor."));
   }
   return project;
@@ -66,16 +67,14 @@ std::string FieldName(const Finding& finding) {
   }
 }
 
-std::string Message(const Project& project, const DocumentLines& lines, const Finding& finding) {
+std::string Message(const Project& project, const Finding& finding) {
   if (finding.Page == 0) return MessageAbout(project.File, 0, finding.Sentence);
-  return MessageAbout(project.File, lines.Pages.at(static_cast<std::size_t>(finding.Page)),
+  return MessageAbout(project.File, project.Lines.Pages.at(static_cast<std::size_t>(finding.Page)),
                       "page " + FormatPage(finding.Page) + FieldName(finding) + ": " + finding.Sentence);
 }
 
 void Tell(const Project& project, const std::vector<Finding>& findings) {
-  if (findings.empty()) return;
-  const DocumentLines lines = LinesOf(ReadWholeFile(project.File));
-  for (const Finding& finding : findings) std::cerr << Message(project, lines, finding) << '\n';
+  for (const Finding& finding : findings) std::cerr << Message(project, finding) << '\n';
 }
 
 Outcome Check(const Arguments& arguments, const Platform& platform) {

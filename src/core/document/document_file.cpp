@@ -52,67 +52,69 @@ std::optional<int> EntryIndex(std::string_view field, int last, Damage damage) {
 
 using Entries = std::vector<std::pair<int, std::string>>;
 
+/// Reads a document line by line.
 template <class Lines>
-Entries ReadMusicLinks(Lines& lines, Damage damage) {
-  Entries music_links;
-  while (!lines.AtEnd()) {
-    const StoredLine line = Split(lines.Next());
-    if (line.Index.empty()) return music_links;
-    if (const auto index = EntryIndex(line.Index, kLastMusicLink, damage))
-      music_links.emplace_back(*index, line.Record);
-  }
-  if (damage == Damage::Skipped) return music_links;
-  throw RunTimeError(
-      "The document is damaged: it ends before its pages.\n"
-      "Restore its backup (File > Restore) or repair it in a text editor.");
-}
+class DocumentReader {
+ public:
+  DocumentReader(Lines lines, Damage damage, DocumentLines& numbers)
+      : lines_(std::move(lines)), damage_(damage), numbers_(numbers) {}
 
-template <class Lines>
-Entries ReadPages(Lines& lines, Damage damage) {
-  Entries pages;
-  while (!lines.AtEnd()) {
-    const StoredLine line = Split(lines.Next());
-    if (const auto index = EntryIndex(line.Index, kLastReadPage, damage))
+  void Run(Global& global) {
+    Entries music_links = ReadMusicLinks();
+    Entries pages = ReadPages();
+    for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
+    for (auto& [index, record] : pages) global.Page(index) = std::move(record);
+  }
+
+ private:
+  StoredLine Next() {
+    ++numbers_.Read;
+    return Split(lines_.Next());
+  }
+
+  Entries ReadMusicLinks() {
+    Entries music_links;
+    while (!lines_.AtEnd()) {
+      const StoredLine line = Next();
+      if (line.Index.empty()) return music_links;
+      if (const auto index = EntryIndex(line.Index, kLastMusicLink, damage_))
+        music_links.emplace_back(*index, line.Record);
+    }
+    if (damage_ == Damage::Skipped) return music_links;
+    throw RunTimeError(
+        "The document is damaged: it ends before its pages.\n"
+        "Restore its backup (File > Restore) or repair it in a text editor.");
+  }
+
+  Entries ReadPages() {
+    Entries pages;
+    while (!lines_.AtEnd()) {
+      const StoredLine line = Next();
+      const auto index = EntryIndex(line.Index, kLastReadPage, damage_);
+      if (!index) continue;
       pages.emplace_back(*index, WithLineBreaks(line.Record));
+      numbers_.Pages.at(static_cast<std::size_t>(*index)) = numbers_.Read;
+    }
+    return pages;
   }
-  return pages;
-}
 
-template <class Lines>
-void ReadLines(Lines lines, Global& global, Damage damage) {
-  Entries music_links = ReadMusicLinks(lines, damage);
-  Entries pages = ReadPages(lines, damage);
-  for (auto& [index, record] : music_links) global.MusicLink(index) = std::move(record);
-  for (auto& [index, record] : pages) global.Page(index) = std::move(record);
+  Lines lines_;
+  Damage damage_;
+  DocumentLines& numbers_;
+};
+
+void ReadText(std::string_view text, Global& global, Damage damage) {
+  DocumentLines ignored;
+  DocumentReader(LineReader(text), damage, ignored).Run(global);
 }
 
 }  // namespace
 
-DocumentLines LinesOf(std::string_view text) {
-  DocumentLines numbers;
-  LineReader lines(text);
-  bool is_behind_music_links = false;
-  for (int number = 1; !lines.AtEnd(); ++number) {
-    const StoredLine line = Split(lines.Next());
-    const int index = WholeValue(line.Index);
-    const int last = is_behind_music_links ? kLastReadPage : kLastMusicLink;
-    if (!is_behind_music_links && line.Index.empty()) {
-      is_behind_music_links = true;
-    } else if (index < 0 || index > last) {
-      numbers.Damaged = number;
-      break;
-    } else if (is_behind_music_links) {
-      numbers.Pages.at(static_cast<std::size_t>(index)) = number;
-    }
-    if (lines.AtEnd() && !is_behind_music_links) numbers.Damaged = number;
-  }
-  return numbers;
-}
-
 void LoadDocument(Global& global) {
   const std::filesystem::path file = DocumentFile(global);
+  DocumentLines ignored;
   try {
-    ReadDocumentFile(file, global);
+    ReadDocumentFile(file, global, ignored);
   } catch (const FileError&) {
     throw;
   } catch (const RunTimeError& error) {
@@ -159,16 +161,16 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
   return text;
 }
 
-void ReadDocumentFile(const std::filesystem::path& file, Global& global) {
-  ReadLines(FileLineReader(file), global, Damage::Refused);
+void ReadDocumentFile(const std::filesystem::path& file, Global& global, DocumentLines& lines) {
+  DocumentReader(FileLineReader(file), Damage::Refused, lines).Run(global);
 }
 
 void ReadDocumentText(std::string_view text, Global& global) {
-  ReadLines(LineReader(text), global, Damage::Refused);
+  ReadText(text, global, Damage::Refused);
 }
 
 void SalvageDocumentText(std::string_view text, Global& global) {
-  ReadLines(LineReader(text), global, Damage::Skipped);
+  ReadText(text, global, Damage::Skipped);
 }
 
 }  // namespace tavrel

@@ -33,16 +33,15 @@ std::string DocumentText(const Global& global, int typed_page, const std::string
 /// the text ends before the empty line.
 void ReadDocumentText(std::string_view text, Global& global);
 
-/// The same from a file, of which only a part at a time is kept in memory. Throws FileError, too.
-void ReadDocumentFile(const std::filesystem::path& file, Global& global);
-
-/// The lines of a document file, from 1, that pages stand in; 0 for those that it does not have.
+/// The lines of a document file, from 1.
 struct DocumentLines {
-  std::array<int, 1001> Pages{};
-  int Damaged = 0;  ///< the line at which ReadDocumentText would throw
+  std::array<int, 1001> Pages{};  ///< in which each page stands; 0 for those that the file does not have
+  int Read = 0;                   ///< how many were read; the last one is damaged if reading throws
 };
 
-DocumentLines LinesOf(std::string_view text);
+/// The same as ReadDocumentText from a file, of which only a part at a time is kept in memory. Throws
+/// FileError, too. `lines` are told in any case.
+void ReadDocumentFile(const std::filesystem::path& file, Global& global, DocumentLines& lines);
 
 /// Reads what can be read of a damaged document: every line that numbers a page or a music link.
 void SalvageDocumentText(std::string_view text, Global& global);

@@ -1,7 +1,19 @@
 #include "core/text/text_files.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <system_error>
+
 namespace tavrel {
 namespace {
+
+namespace fs = std::filesystem;
+
+std::size_t SizeOf(const fs::path& file) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(file, error);
+  return error ? 0 : static_cast<std::size_t>(size);
+}
 
 std::string_view WithoutReturn(std::string_view line) {
   if (line.ends_with('\r')) line.remove_suffix(1);
@@ -10,14 +22,14 @@ std::string_view WithoutReturn(std::string_view line) {
 
 }  // namespace
 
-std::string ReadWholeFile(const std::filesystem::path& file) {
-  // Enough for a note. A file's size is not asked for: it may grow or shrink while it is read.
+std::string ReadWholeFile(const fs::path& file) {
+  // Enough for a note. The size is only asked for beyond it, and is a guess: the file may grow or shrink.
   constexpr std::size_t kFirstPart = 8 * 1024;
   OpenedFile opened(file);
   std::string bytes(kFirstPart, '\0');
   std::size_t length = opened.Read(bytes.data(), bytes.size());
   while (length == bytes.size()) {
-    bytes.resize(2 * length);
+    bytes.resize(std::max(SizeOf(file) + 1, 2 * length));
     length += opened.Read(bytes.data() + length, bytes.size() - length);
   }
   bytes.resize(length);
