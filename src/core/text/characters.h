@@ -8,7 +8,8 @@ namespace tavrel {
 /// What a search in a text gives if there is nothing to be found.
 inline constexpr auto kNotFound = std::string_view::npos;
 
-/// As text.find(character, from), in less time where it stands next to that place, as one tag does to another.
+/// As text.find(character, from), in less time where it stands next to that place, as one tag does to
+/// another.
 constexpr std::size_t FindNear(std::string_view text, char character, std::size_t from) {
   constexpr std::size_t kNear = 4;
   for (std::size_t far = from + kNear; from < far && from < text.size(); ++from) {
