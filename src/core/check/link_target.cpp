@@ -15,8 +15,13 @@ using Kind = LinkTarget::Kind;
 
 /// The page whose note has such a name; 0 if no page's has.
 int NotedPage(std::string_view target) {
-  if (target.size() != 3 || !std::all_of(target.begin(), target.end(), IsDigit)) return 0;
-  return WholeValue(target);
+  if (target.size() != 3) return 0;
+  int page = 0;
+  for (const char digit : target) {
+    if (!IsDigit(digit)) return 0;
+    page = 10 * page + (digit - '0');
+  }
+  return page;
 }
 
 /// Notes are not published, so they do not count.

@@ -37,7 +37,9 @@ class PageCheck {
         code_page_(code_page),
         parts_(parts),
         published_(parts.PublishedLinks()),
-        brackets_(BracketsOf(parts.Text)) {}
+        brackets_(BracketsOf(parts.Text)) {
+    report_.LeadsTo.reserve(parts.Links.size());
+  }
 
   PageReport Run() {
     CheckTitle();
@@ -121,11 +123,13 @@ class PageCheck {
   void CheckLinks();
   void CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads, bool is_published);
   void CheckMusic();
-  /// Whether an address of music has one. That of most music has none as there is none at all.
+
+  /// Whether an address of music has one. Most have none because there is none in the music link at all.
   bool HasQuotationMark(int music_link, std::string_view target) const {
     return global_.MusicLink(music_link).find("\"") != std::string::npos &&
            GetMusic(global_, target).find('"') != std::string::npos;
   }
+
   bool IsUsed(std::size_t link) const {
     return link < published_ || (brackets_.AreLinks && link < brackets_.Links.size());
   }
@@ -187,7 +191,7 @@ void PageCheck::CheckLinks() {
     if (leads.What != Kind::Page) {
       CheckTarget(Field::LinkTarget, row, parts.Target, leads, IsUsed(link));
     } else if (IsUsed(link)) {
-      report_.LeadsTo.set(static_cast<std::size_t>(leads.Number));
+      report_.LeadsTo.push_back(leads.Number);
     }
   }
   if (published_ == parts_.Links.size()) return;

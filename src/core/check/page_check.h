@@ -1,6 +1,5 @@
 #pragma once
 
-#include <bitset>
 #include <vector>
 
 #include "core/check/finding.h"
@@ -13,7 +12,7 @@ namespace tavrel {
 /// What would go wrong with one page that is not empty, and which pages a reader can go on to from it.
 struct PageReport {
   std::vector<Finding> Findings;
-  std::bitset<kLastPage + 1> LeadsTo;
+  std::vector<int> LeadsTo;
 };
 
 /// Looks at everything but the length of the page's note. `parts` are the page's.

@@ -94,14 +94,13 @@ void ProjectCheck::Renew(const Global& global, const PublishOptions& options) {
 }
 
 void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
-  PageParts parts;
   for (int page = 1; page <= kLastPage; ++page) {
     const Record& bytes = global.Page(page);
     CheckedPage& checked = At(page);
     if (bytes.Shares(checked.Bytes)) continue;
     checked = {bytes, {}};
     if (bytes.empty()) continue;
-    ReadParts(bytes, parts);
+    const PageParts parts = PartsOf(bytes);
     checked.Report = CheckPage(global, page, parts, code_page);
     CheckLength(global, page, parts, surroundings_.Options, checked.Report);
   }
@@ -110,15 +109,18 @@ void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
 /// The pages to which one comes from page 1 on.
 ProjectCheck::Pages ProjectCheck::ReachedPages() const {
   Pages reached;
-  std::vector<int> ahead = {1};
-  reached.set(1);
+  std::vector<int> ahead;
+  const auto reach = [&](int page) {
+    auto is_reached = reached[static_cast<std::size_t>(page)];
+    if (is_reached) return;
+    is_reached = true;
+    ahead.push_back(page);
+  };
+  reach(1);
   while (!ahead.empty()) {
-    const Pages next = At(ahead.back()).Report.LeadsTo & ~reached;
+    const int page = ahead.back();
     ahead.pop_back();
-    reached |= next;
-    for (int page = 1; next.any() && page <= kLastPage; ++page) {
-      if (next[static_cast<std::size_t>(page)]) ahead.push_back(page);
-    }
+    for (const int next : At(page).Report.LeadsTo) reach(next);
   }
   return reached;
 }
@@ -140,11 +142,10 @@ std::vector<Finding> CheckProject(const Global& global, const CodePage& code_pag
 std::vector<Finding> CheckPublishing(const Global& global, const CodePage& code_page, int other_notes) {
   std::vector<Finding> findings;
   int notes = other_notes;
-  PageParts parts;
   for (int page = 1; page <= kLastPage; ++page) {
     if (global.Page(page).empty()) continue;
     ++notes;
-    ReadParts(global.Page(page), parts);
+    const PageParts parts = PartsOf(global.Page(page));
     if (CanBePublished(global, page, parts)) continue;
     const std::vector<Finding> found = CheckPage(global, page, parts, code_page).Findings;
     std::copy_if(found.begin(), found.end(), std::back_inserter(findings), StopsPublishing);

@@ -13,15 +13,9 @@ namespace {
 /// at the next closing tag of its kind, whatever opens in between.
 class PartsReader {
  public:
-  PartsReader(std::string_view record, PageParts& parts) : record_(record), parts_(parts) {
-    std::vector<PageParts::Link> links = std::move(parts.Links);
-    links.clear();
-    links.reserve(kUsualLinks);
-    parts = {};
-    parts.Links = std::move(links);
-  }
+  explicit PartsReader(std::string_view record) : record_(record) { parts_.Links.reserve(kUsualLinks); }
 
-  void Run() {
+  PageParts Run() {
     for (std::size_t at = BracketFrom(0); at != kNotFound;) {
       const std::size_t behind_links = PassWholeLinks(at);
       at = BracketFrom(behind_links == at ? PassTag(at) : behind_links);
@@ -30,6 +24,7 @@ class PartsReader {
     const auto start = static_cast<std::size_t>(list_.data() == nullptr ? 0 : list_.data() - record_.data());
     parts_.AreLinksListed = parts_.Links.empty() || (list_.data() != nullptr && first_link_ >= start &&
                                                      last_link_ < start + list_.size());
+    return std::move(parts_);
   }
 
  private:
@@ -157,7 +152,7 @@ class PartsReader {
   }
 
   std::string_view record_;
-  PageParts& parts_;
+  PageParts parts_;
   std::string_view list_;  ///< the first list of links
   std::array<std::size_t, kNames.size()> opened_{};
   std::array<std::size_t, kNames.size()> closed_{};
@@ -172,14 +167,8 @@ std::size_t PageParts::PublishedLinks() const {
   return static_cast<std::size_t>(std::find_if(Links.begin(), Links.end(), incomplete) - Links.begin());
 }
 
-void ReadParts(std::string_view record, PageParts& parts) {
-  PartsReader(record, parts).Run();
-}
-
 PageParts PartsOf(std::string_view record) {
-  PageParts parts;
-  ReadParts(record, parts);
-  return parts;
+  return PartsReader(record).Run();
 }
 
 }  // namespace tavrel

@@ -26,7 +26,5 @@ struct PageParts {
 };
 
 PageParts PartsOf(std::string_view record);
-/// The same, in the memory of parts that are not needed any more.
-void ReadParts(std::string_view record, PageParts& parts);
 
 }  // namespace tavrel

@@ -48,6 +48,18 @@ double ExtremeValue(std::string_view number) {
   return value;
 }
 
+/// Nearly all numbers are the pages of links: a few digits and nothing else. -1 if this is another one.
+std::int32_t FewDigits(std::string_view text) {
+  constexpr std::size_t kMost = 9;
+  if (text.empty() || text.size() > kMost) return -1;
+  std::int32_t value = 0;
+  for (const char character : text) {
+    if (!IsDigit(character)) return -1;
+    value = value * 10 + (character - '0');
+  }
+  return value;
+}
+
 double ParseUnsigned(std::string_view number) {
   double value = 0;
   const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
@@ -67,7 +79,8 @@ std::string MusicLinkName(int number) {
   return "M" + std::to_string(number);
 }
 
-double ValueOfAnyText(std::string_view text) {
+double Value(std::string_view text) {
+  if (const std::int32_t value = FewDigits(text); value >= 0) return value;
   text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
   const std::size_t sign = IsSignAt(text, 0) ? 1 : 0;
   const double value = ParseUnsigned(text.substr(sign, NumberLength(text.substr(sign))));
@@ -81,7 +94,8 @@ std::optional<double> NumberIn(std::string_view text) {
   return Value(number);
 }
 
-std::int32_t WholeValueOfAnyText(std::string_view text) {
+std::int32_t WholeValue(std::string_view text) {
+  if (const std::int32_t value = FewDigits(text); value >= 0) return value;
   using Limits = std::numeric_limits<std::int32_t>;
   const double rounded = std::nearbyint(Value(text));
   return static_cast<std::int32_t>(

@@ -14,30 +14,13 @@ namespace tavrel::test {
 namespace {
 
 std::string RandomTags(std::mt19937& random) {
-  static const std::vector<std::string> pieces = {"<title>",
-                                                  "</title>",
-                                                  "<note>",
-                                                  "</note>",
-                                                  "<text>",
-                                                  "</text>",
-                                                  "<link>",
-                                                  "</link>",
-                                                  "<linktext>",
-                                                  "</linktext>",
-                                                  "<linkto>",
-                                                  "</linkto>",
-                                                  "<music>",
-                                                  "</music>",
-                                                  "a",
-                                                  "<",
-                                                  "</",
-                                                  ">",
-                                                  "<b>",
-                                                  "<link",
-                                                  "007",
-                                                  "</linktext><linkto>",
-                                                  "<linktext>a</linktext><linkto>007</linkto>",
-                                                  "<linktext>b</linktext><linkto>008</linkto>"};
+  static const std::string one = "<linktext>a</linktext><linkto>007</linkto>";
+  static const std::string two = "<linktext>b</linktext><linkto>008</linkto>";
+  static const std::string between = "</linktext><linkto>";
+  static const std::vector<std::string> pieces = {
+      "<title>",    "</title>",    "<note>",   "</note>",   "<text>",  "</text>",  "<link>", "</link>",
+      "<linktext>", "</linktext>", "<linkto>", "</linkto>", "<music>", "</music>", "a",      "<",
+      "</",         ">",           "<b>",      "<link",     "007",     one,        two,      between};
   std::string record;
   for (auto left = random() % 30; left > 0; --left) record += pieces[random() % pieces.size()];
   return record;
