@@ -106,8 +106,8 @@ void NoteReader::ProcessInput(std::string_view note, int page) {
 
   AnchorCutter anchors(content);
   std::string links;
+  links.reserve(note.size());
   try {
-    links.reserve(note.size());
     ProcessAnchors(anchors, links);
   } catch (const RunTimeError&) {
     line_ = LineAt(note, replacements.Undone(anchors.Opening()));

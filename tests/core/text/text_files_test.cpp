@@ -98,6 +98,18 @@ TEST(ReadWholeFile, GivesEveryByte) {
   EXPECT_EQ(ReadWholeFile(folder.Path() / "bytes"), bytes);
 }
 
+TEST(ReadWholeFile, GivesFilesOfAnyLength) {
+  constexpr std::size_t kFirstPart = 8 * 1024;
+  const TemporaryFolder folder;
+  for (const std::size_t length :
+       {kFirstPart - 1, kFirstPart, kFirstPart + 1, 2 * kFirstPart, 5 * kFirstPart, 100 * kFirstPart + 7}) {
+    std::string bytes(length, 'x');
+    bytes.back() = 'y';
+    folder.Write("file", bytes);
+    EXPECT_TRUE(ReadWholeFile(folder.Path() / "file") == bytes) << length;
+  }
+}
+
 TEST(ReadWholeFile, GivesNothingForAnEmptyFile) {
   const TemporaryFolder folder;
   folder.Write("empty", "");
