@@ -127,11 +127,17 @@ void ViewPanels::ViewFindAll_Click() {
   if (find_all_dock_->isFloating()) find_all_dock_->activateWindow();
 }
 
+bool ViewPanels::IsBehindAnother(QDockWidget& dock) const {
+  const QList<QDockWidget*> sharing = window_.tabifiedDockWidgets(&dock);
+  const bool is_shared = std::any_of(sharing.begin(), sharing.end(),
+                                     [](const QDockWidget* other) { return !other->isHidden(); });
+  // The toolkit moves a panel that lies behind another one out of the window and calls it visible.
+  return is_shared && !window_.rect().intersects(dock.geometry());
+}
+
 /// False if the panel was closed: the item was ticked, and the panel not only behind another one.
 bool ViewPanels::Show(QDockWidget& dock, QAction& item) {
-  // The toolkit moves a panel that lies behind another one out of the window and calls it visible.
-  const bool is_in_view = dock.isFloating() || window_.rect().intersects(dock.geometry());
-  if (!item.isChecked() && is_in_view && dock.isVisible()) {
+  if (!item.isChecked() && dock.isVisible() && !IsBehindAnother(dock)) {
     dock.hide();
     return false;
   }

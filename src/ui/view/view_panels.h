@@ -45,6 +45,7 @@ class ViewPanels : public QObject {
   void Update();
   void UpdateCheck();
   void MakeRoomForPreview();
+  bool IsBehindAnother(QDockWidget& dock) const;
   bool Show(QDockWidget& dock, QAction& item);
   bool ShowAtBottom(QDockWidget& dock, QAction& item);
   void NameTabs();

@@ -162,5 +162,18 @@ TEST_F(TabbedPanelsTest, APanelThatCameToTheFrontWhenTheOtherWasClosedIsClosed) 
   EXPECT_TRUE(Dock("CheckPanelDock").isHidden());
 }
 
+/// The window has not yet given the panel its place again.
+TEST_F(TabbedPanelsTest, BothAreClosedByTheirItemsOneRightAfterTheOther) {
+  OpenDocument("Guide.dat", kGuide);
+  Choose("ViewCheck");
+  Choose("ViewFindAll");
+  Settle();
+  Find<QAction>(Window(), "ViewFindAll").trigger();
+  Find<QAction>(Window(), "ViewCheck").trigger();
+  Settle();
+  EXPECT_TRUE(Dock("FindAllPanelDock").isHidden());
+  EXPECT_TRUE(Dock("CheckPanelDock").isHidden());
+}
+
 }  // namespace
 }  // namespace tavrel::test
