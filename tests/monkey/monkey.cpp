@@ -75,9 +75,9 @@ void Monkey::Restart(Ending ending) {
   stage_->Start();
   stage_->Window().resize(900, 600);
   player_.Watch(stage_->Window());
-  new PanelWatch(stage_->Window(), stage_->Seen);
   Find<QTimer>(stage_->Window(), "LookTimer").stop();
   screen_ = std::make_unique<Screen>(stage_->Window());
+  new PanelWatch(*screen_, stage_->Seen);
   caret_field_ = "Text1";
   model_ = std::make_unique<Model>(stage_->ProgramFolder);
   stage_->Seen.Clear();
@@ -231,6 +231,7 @@ void Monkey::Follow() {
   const std::vector<LiteralStep>& done = model_->Steps().Done;
   FollowRedo();
   const bool has_step = done.size() > steps;
+  if (has_step) Remember("a step: " + done.back().Name);
   has_destroyed_ = has_step && !done.back().Name.starts_with("Edit page");
   has_stored_ = has_step && done.back().Showing != 0;
 }

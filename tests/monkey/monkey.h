@@ -101,6 +101,7 @@ class Monkey {
   void UndoInFindWhat(LineField& field);
   void UseList(const QString& name);
   void PressKeysIn(QWidget& control, const std::vector<Qt::Key>& keys);
+  void LeaveAgain(LiteralPlace place);
   void FollowPanels();
 
   void NoteCaretField();

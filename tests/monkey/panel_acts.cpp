@@ -252,7 +252,8 @@ void Monkey::UseList(const QString& name) {
   list.scrollTo(cell);
   const QPoint place = list.visualRect(cell).center();
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
-  if (kind < 4) return;
+  // What was typed meanwhile may have emptied the list.
+  if (kind < 4 || !list.indexAt(place).isValid()) return;
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, place);
   QTest::mouseRelease(list.viewport(), Qt::LeftButton, {}, place);
 }
@@ -265,17 +266,22 @@ void Monkey::PressKeysIn(QWidget& control, const std::vector<Qt::Key>& keys) {
   }
 }
 
+/// The click that came next took the focus back from where the panel had led.
+void Monkey::LeaveAgain(LiteralPlace place) {
+  model_->EndCommand(place);
+  model_->BeginCommand(place,
+                       model_->Showing() == showing_ ? with_redo_ : std::map<std::string, std::string>());
+  if (place.Field != "Text1") place.Anchor = place.Caret;
+  model_->LeaveField(model_->Focus);
+  model_->LeavePlace(place);
+  model_->Focus = "";
+}
+
 void Monkey::FollowPanels() {
   const Event* last = nullptr;
   for (const Event& event : stage_->Seen.Events) {
     if (event.What != Event::Kind::Led) continue;
-    if (last != nullptr) {
-      // The click that came next took the focus back into the panel.
-      model_->EndCommand(place_left_);
-      model_->LeaveField(model_->Focus);
-      model_->Focus = "";
-      model_->BeginCommand(place_left_, {});
-    }
+    if (last != nullptr) LeaveAgain(last->Place);
     last = &event;
     Remember("led to " + std::to_string(event.Number) + " " + event.Control);
     if (event.Window == "PreviewPanel") {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <map>
 #include <string>
+#include <utility>
 
 #include "support/user.h"
 #include "ui/controls/line_field.h"
@@ -38,7 +39,9 @@ bool IsEnterPress(const QEvent& event) {
 
 }  // namespace
 
-PanelWatch::PanelWatch(Main& window, tavrel::test::Record& record) : QObject(&window), record_(record) {
+PanelWatch::PanelWatch(const Screen& screen, tavrel::test::Record& record)
+    : QObject(&screen.Window), screen_(screen), record_(record) {
+  Main& window = screen.Window;
   Watch(Find<RowList>(window, "Hits"));
   Watch(Find<RowList>(window, "Findings"));
   Find<LineField>(window, "FindWhat").installEventFilter(this);
@@ -89,8 +92,10 @@ void PanelWatch::LookAt(const RowList& list, int row) {
           .Number = cell(0).data().toInt()};
 }
 
-void PanelWatch::Record(const Event& event) {
-  if (!record_.IsOver) record_.Events.push_back(event);
+void PanelWatch::Record(Event event) {
+  if (record_.IsOver) return;
+  event.Place = screen_.PlaceIn(screen_.Focus());
+  record_.Events.push_back(std::move(event));
 }
 
 }  // namespace tavrel::test

@@ -3,9 +3,9 @@
 #include <QObject>
 
 #include "monkey/record.h"
+#include "monkey/screen.h"
 
 namespace tavrel {
-class Main;
 class RowList;
 }  // namespace tavrel
 
@@ -16,8 +16,8 @@ class PanelWatch : public QObject {
   Q_OBJECT
 
  public:
-  /// Belongs to the window.
-  PanelWatch(Main& window, tavrel::test::Record& record);
+  /// Belongs to the window of the screen, which has to outlive it.
+  PanelWatch(const Screen& screen, tavrel::test::Record& record);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -25,8 +25,9 @@ class PanelWatch : public QObject {
  private:
   void Watch(RowList& list);
   void LookAt(const RowList& list, int row);
-  void Record(const Event& event);
+  void Record(Event event);
 
+  const Screen& screen_;
   tavrel::test::Record& record_;
   Event row_{.What = Event::Kind::Led};  ///< the one that is being chosen
 };

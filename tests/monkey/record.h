@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "monkey/literal_history.h"
+
 class QWidget;
 
 namespace tavrel::test {
@@ -30,7 +32,8 @@ struct Event {
   std::string Window = {};                         ///< the dialog or window
   std::string Control = {};                        ///< the button, command or grid; a message's text
   std::map<std::string, std::string> Values = {};  ///< what the dialog's controls held
-  int Number = 0;  ///< an answer, a row, a page, whether a dialog was accepted
+  int Number = 0;           ///< an answer, a row, a page, whether a dialog was accepted
+  LiteralPlace Place = {};  ///< of the caret, once a panel has led there
 };
 
 /// All of one action.
