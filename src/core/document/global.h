@@ -35,6 +35,9 @@ struct Global {
   bool IsDocumentShown = false;         ///< the fields of the editor belong to the document in memory
 
   bool IsDocumentOpen() const { return !DocPath.empty(); }
+  /// Whether the open document is the one in the fields of the editor: not while another one is being opened,
+  /// and not if none was.
+  bool IsDocumentInEditor() const { return IsDocumentOpen() && IsDocumentShown; }
 
   Record& Page(int number) { return Pages.at(static_cast<std::size_t>(number)); }
   const Record& Page(int number) const { return Pages.at(static_cast<std::size_t>(number)); }

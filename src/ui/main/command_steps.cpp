@@ -13,7 +13,7 @@ CommandSteps::~CommandSteps() {
 }
 
 void CommandSteps::Begins() {
-  is_recorded_ = app_.State.IsDocumentOpen() && app_.State.IsDocumentShown;
+  is_recorded_ = app_.State.IsDocumentInEditor();
   if (is_recorded_) app_.Steps.Begin(app_.State, editor_.Now(), editor_.TypedWithRedo());
 }
 

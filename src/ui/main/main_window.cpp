@@ -225,14 +225,14 @@ void Main::ShowAt(const Place& place) {
 }
 
 void Main::ShowPage(int page) {
-  if (!app_.State.IsDocumentShown || page == app_.State.CurrentPage) return;
+  if (!app_.State.IsDocumentInEditor() || page == app_.State.CurrentPage) return;
   StoreTyped();
   app_.State.CurrentPage = static_cast<std::int16_t>(page);
   LoadPage(page);
 }
 
 void Main::ShowPart(const FieldPart& part) {
-  if (!app_.State.IsDocumentShown || part.Page < 1 || part.Page > kLastPage) return;
+  if (!app_.State.IsDocumentInEditor() || part.Page < 1 || part.Page > kLastPage) return;
   const FieldPart shown = part.Link > kLastLink ? FieldPart{.Page = part.Page} : part;
   if (part.Page == app_.State.CurrentPage) {
     SelectHere(shown);

@@ -74,7 +74,7 @@ void RecoveryKeeper::Look() {
   const bool is_command_at_work = QApplication::overrideCursor() != nullptr;
   is_look_due_ = is_at_work_;
   if (recovery_file_.empty() || is_at_work_ || is_command_at_work) return;
-  if (!app_.State.IsDocumentOpen() || !app_.State.IsDocumentShown) {
+  if (!app_.State.IsDocumentInEditor()) {
     Remove();
     return;
   }

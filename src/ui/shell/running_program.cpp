@@ -58,7 +58,7 @@ bool RunningProgram::StoreTyped() noexcept {
 }
 
 std::string RunningProgram::Rescue() {
-  if (!global_.IsDocumentOpen() || !global_.IsDocumentShown) return {};
+  if (!global_.IsDocumentInEditor()) return {};
   const bool complete = StoreTyped();
   const std::filesystem::path copy = RescueDocument(
       global_, platform_, {global_.ProgramFolder, ToPath(QDir::homePath()), ToPath(QDir::tempPath())});

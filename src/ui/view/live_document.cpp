@@ -33,7 +33,7 @@ LiveDocument::LiveDocument(App& app, const Editor& editor, QObject* parent)
 }
 
 void LiveDocument::Look() {
-  const bool is_open = app_.State.IsDocumentOpen() && app_.State.IsDocumentShown;
+  const bool is_open = app_.State.IsDocumentInEditor();
   if (!is_open && !is_open_) return;
   Global document = is_open ? WithTyped() : Global();
   if (is_open == is_open_ && IsSame(document, document_)) return;

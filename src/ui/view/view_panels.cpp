@@ -191,7 +191,7 @@ void ViewPanels::Lead(FieldPart part) {
   live_.Look();
   const bool is_there = WordsAt(live_.Document(), part) == WordsAt(shown, part);
   editor_.ShowPart(is_there ? part : WithoutWords(live_.Document(), part));
-  if (app_.State.IsDocumentShown) window_.activateWindow();
+  if (app_.State.IsDocumentInEditor()) window_.activateWindow();
 }
 
 void ViewPanels::TellReplaced(int count) {

@@ -167,6 +167,22 @@ TEST_F(CheckLeadsTest, BlanksTypedInFrontOfTheCulpritDoNotShiftIt) {
   EXPECT_EQ(Where(), "page 2, Text1 [<]");
 }
 
+TEST_F(CheckLeadsTest, BehindTheCoverNothingIsLedTo) {
+  OpenWrong();
+  TypeInto(Body(), "typed");
+  LetPanelsLook();
+  // The list keeps what it shows until the next look.
+  Find<QTimer>(Window(), "LookTimer").stop();
+  const std::string stored = Stored(1);
+  Player.Expect("Import", [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
+  Choose("ToolsImport");
+  ASSERT_EQ(Findings().model()->rowCount(), 10);
+  DoubleClickRowOf(Findings(), RowWith(Findings(), kStrange));
+  EXPECT_EQ(State.CurrentPage, 1);
+  EXPECT_EQ(Stored(1), stored);
+  EXPECT_EQ(Body().Bytes(), "typed");
+}
+
 TEST_F(CheckLeadsTest, APageThatWasNeverStoredByTheEditorShowsItsCulpritsAsWell) {
   // The editor itself stores neither blanks around a text nor links without a target.
   const std::string page = "<title>T</title><text>   ab < c</text><link>" + LinkRecord("lost", "") +

@@ -58,6 +58,20 @@ TEST_F(WalkedPreviewTest, AfterTheProjectWasClosedItsLinksLeadTheEditorNowhere) 
   EXPECT_TRUE(Program.Failures.empty());
 }
 
+TEST_F(WalkedPreviewTest, AfterOpeningWasCalledOffItsLinksLeadTheEditorNowhere) {
+  OpenDocument("Guide.dat", kGuide);
+  OpenPreview();
+  Tick("GoAlong");
+  Find<QTimer>(Window(), "LookTimer").stop();
+  Player.Expect("OpenDoc", [](QWidget& dialog) { PressKey(dialog, Qt::Key_Escape); });
+  Choose("FileOpen");
+  const std::string title = Title().Bytes();
+  PressKey(Device(), Qt::Key_Return);
+  EXPECT_EQ(State.CurrentPage, 1);
+  EXPECT_EQ(Title().Bytes(), title);
+  EXPECT_TRUE(Program.Failures.empty());
+}
+
 class PanelsTogetherTest : public RememberedWindowTest {
  protected:
   static QDockWidget& Dock(const Main& window, const QString& name) {
