@@ -1,10 +1,10 @@
 #include "core/check/link_target.h"
 
 #include <algorithm>
-#include <array>
 
 #include "core/document/markup.h"
 #include "core/document/page_record.h"
+#include "core/ipod/music_links.h"
 #include "core/text/characters.h"
 #include "core/text/numbers.h"
 
@@ -26,9 +26,7 @@ int NotedPage(std::string_view target) {
 
 /// Notes are not published, so they do not count.
 bool NamesMusic(std::string_view record) {
-  constexpr std::array<std::string_view, 6> kPublished = {"<song>",   "<album>", "<composer>",
-                                                          "<artist>", "<genre>", "<playlist>"};
-  return std::any_of(kPublished.begin(), kPublished.end(),
+  return std::any_of(kMusicTags.begin(), kMusicTags.begin() + kPublishedMusicFields,
                      [&](std::string_view tag) { return !TagContent(record, tag, 1).empty(); });
 }
 

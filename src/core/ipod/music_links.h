@@ -15,7 +15,17 @@ using MusicFields = std::array<std::string, kMusicFields>;
 inline constexpr std::array<std::string_view, kMusicFields> kMusicTags = {
     "<song>", "<album>", "<composer>", "<artist>", "<genre>", "<playlist>", "<notes>"};
 
-/// Splits a music link record; a missing element gives an empty field.
+/// So many of them, from the first on, are published; the notes are for people only.
+inline constexpr std::size_t kPublishedMusicFields = 6;
+
+/// The fields of a music link as they stand in its record, which has to outlive them.
+using MusicParts = std::array<std::string_view, kMusicFields>;
+
+/// Splits a music link record in one pass; of elements that are doubled it takes the first, and a missing one
+/// gives an empty field.
+MusicParts MusicPartsOf(std::string_view record);
+
+/// The same with the fields' own bytes.
 MusicFields ReadMusicLink(std::string_view record);
 
 /// Joins fields, as they stand, into a music link record. Empty fields are left out, so all of them empty

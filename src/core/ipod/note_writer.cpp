@@ -1,15 +1,14 @@
 #include "core/ipod/note_writer.h"
 
-#include <algorithm>
 #include <array>
 #include <set>
 #include <system_error>
-#include <utility>
 
 #include "core/document/brackets.h"
 #include "core/document/markup.h"
 #include "core/document/page_parts.h"
 #include "core/ipod/folder_store.h"
+#include "core/ipod/music_links.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -38,9 +37,31 @@ class Length {
   std::size_t bytes_ = 0;
 };
 
+/// The record that a reference such as "M7" means.
+const Record& MusicLinkAt(const Global& global, std::string_view reference) {
+  const int number = WholeValue(reference.substr(1));
+  if (number < 0 || number > kLastMusicLink) {
+    throw RunTimeError("The target of a link reads " + Quoted(reference) +
+                       ", but music links are numbered 0 to " + std::to_string(kLastMusicLink) +
+                       ".\nCorrect the target and publish again.");
+  }
+  return global.MusicLink(number);
+}
+
 template <class Note>
-void AppendAnchor(Note& note, std::string_view address, std::string_view text) {
-  note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
+void AppendMusicAddress(Note& note, const Global& global, std::string_view reference) {
+  constexpr std::array<std::string_view, kPublishedMusicFields> kKeys = {
+      "song=", "album=", "composer=", "artist=", "genre=", "playlist="};
+  std::string_view before = "ipod:music?";
+  if (reference.size() >= 2) {
+    const MusicParts parts = MusicPartsOf(MusicLinkAt(global, reference));
+    for (std::size_t field = 0; field < kKeys.size(); ++field) {
+      if (parts[field].empty()) continue;
+      note.append(before).append(kKeys[field]).append(parts[field]);
+      before = "&";
+    }
+  }
+  if (before != "&") note.append(kNotesMenu);
 }
 
 /// Opens an anchor to a link's target: the note of a page, or music.
@@ -50,7 +71,7 @@ void AppendLinkOpening(Note& note, const Global& global, std::string_view target
   if (Value(target) > 0) {
     note.append("z").append(target).append(".txt");
   } else {
-    note.append(GetMusic(global, target));
+    AppendMusicAddress(note, global, target);
   }
   note.append("\">");
 }
@@ -63,8 +84,9 @@ void AppendTitleLine(Note& note, int page, std::string_view title) {
 template <class Note>
 void AppendMusic(Note& note, const Global& global, const PageParts& parts) {
   if (parts.MusicText.empty()) return;
-  AppendAnchor(note, GetMusic(global, parts.MusicLink), parts.MusicText);
-  note.append(kLineEnd);
+  note.append("<a href=\"");
+  AppendMusicAddress(note, global, parts.MusicLink);
+  note.append("\">").append(parts.MusicText).append("</a>").append(kLineEnd);
 }
 
 template <class Note>
@@ -110,8 +132,7 @@ void AppendNote(Note& note, const Global& global, int page, const PageParts& par
   note.append(kLineEnd);
   AppendPageLinks(note, global, parts);
   if (options.NotesMenuLink) {
-    AppendAnchor(note, kNotesMenu, "Notes menu");
-    note.append(kLineEnd);
+    note.append("<a href=\"").append(kNotesMenu).append("\">Notes menu</a>").append(kLineEnd);
   }
 }
 
@@ -124,28 +145,9 @@ std::string GetText(const Global& global, std::string_view text, int page) {
 }
 
 std::string GetMusic(const Global& global, std::string_view reference) {
-  if (reference.size() < 2) return std::string(kNotesMenu);
-  const int number = WholeValue(reference.substr(1));
-  if (number < 0 || number > kLastMusicLink) {
-    throw RunTimeError("The target of a link reads " + Quoted(reference) +
-                       ", but music links are numbered 0 to " + std::to_string(kLastMusicLink) +
-                       ".\nCorrect the target and publish again.");
-  }
-
-  constexpr std::array<std::pair<std::string_view, std::string_view>, 6> kFields = {{
-      {"<song>", "&song="},
-      {"<album>", "&album="},
-      {"<composer>", "&composer="},
-      {"<artist>", "&artist="},
-      {"<genre>", "&genre="},
-      {"<playlist>", "&playlist="},
-  }};
-  std::string query;
-  for (const auto& [tag, key] : kFields) {
-    const std::string_view value = TagContent(global.MusicLink(number), tag, 1);
-    if (!value.empty()) query.append(key).append(value);
-  }
-  return query.empty() ? std::string(kNotesMenu) : "ipod:music?" + query.substr(1);
+  std::string address;
+  AppendMusicAddress(address, global, reference);
+  return address;
 }
 
 std::string NoteName(int page) {

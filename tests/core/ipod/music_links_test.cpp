@@ -48,6 +48,15 @@ TEST(ReadMusicLink, TakesTheFirstOfDoubledElements) {
   EXPECT_EQ(ReadMusicLink("<song>a</song><song>b</song>"), (MusicFields{"a", "", "", "", "", "", ""}));
 }
 
+TEST(ReadMusicLink, ReadsEachElementAsIfTheOthersWereText) {
+  EXPECT_EQ(ReadMusicLink("<song>a<song>b</song>"), (MusicFields{"a<song>b", "", "", "", "", "", ""}));
+  EXPECT_EQ(ReadMusicLink("<album>x<song>y</album>z</song>"),
+            (MusicFields{"y</album>z", "x<song>y", "", "", "", "", ""}));
+  EXPECT_EQ(ReadMusicLink("<song>a</album><album>b</album>"), (MusicFields{"", "b", "", "", "", "", ""}));
+  EXPECT_EQ(ReadMusicLink("<<genre>r<</genre><"), (MusicFields{"", "", "", "", "r<", "", ""}));
+  EXPECT_EQ(ReadMusicLink("</song><song></song><song>late</song>"), MusicFields());
+}
+
 TEST(ReadMusicLink, ChangesNoBlanks) {
   EXPECT_EQ(ReadMusicLink("<song> a </song>"), (MusicFields{" a ", "", "", "", "", "", ""}));
 }
