@@ -5,16 +5,20 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
+#include "core/check/project_check.h"
 #include "core/document/document_file.h"
 #include "core/document/markup.h"
 #include "core/document/page_record.h"
+#include "core/editing/find_all.h"
 #include "core/editing/link_numbers.h"
 #include "core/editing/search.h"
 #include "core/ipod/music_links.h"
 #include "core/ipod/note_reader.h"
 #include "core/ipod/note_writer.h"
 #include "core/planner/plan_file.h"
+#include "core/preview/note.h"
 #include "core/shell/registry_value.h"
 #include "core/text/field_reader.h"
 #include "core/text/file_names.h"
@@ -121,9 +125,38 @@ std::size_t CleanNames(Global&, const Texts& texts) {
   return NameInCodePage(PathFromName(CleanName(texts.Text), code_page), code_page).size();
 }
 
-const std::array<Work, 13> kWorks = {ReadDocument, ReadAndWritePlan, ReadNote,   WriteNote, ReadAndBuildPage,
+/// A page, and music to which it may lead.
+void SetPageAndMusic(Global& global, const Texts& texts) {
+  global.Page(1) = texts.Text;
+  global.MusicLink(1) = texts.Wanted;
+}
+
+std::size_t Check(Global& global, const Texts& texts) {
+  SetPageAndMusic(global, texts);
+  std::size_t size = 0;
+  for (const Finding& finding : CheckProject(global, CodePage::Windows1252(), {}))
+    size += finding.Sentence.size();
+  return size;
+}
+
+std::size_t ReadBeginning(Global& global, const Texts& texts) {
+  SetPageAndMusic(global, texts);
+  return tavrel::ReadNote(NoteBeginning(global, 1, {})).Text.size();
+}
+
+std::size_t SearchAll(Global& global, const Texts& texts) {
+  if (texts.Wanted.empty()) return 0;
+  global.Page(1) = texts.Text;
+  std::vector<Hit> hits;
+  for (FindAll search(global, texts.Wanted, false, CodePage::Windows1252()); !search.IsDone();)
+    search.SearchPage(hits);
+  return hits.size();
+}
+
+const std::array<Work, 16> kWorks = {ReadDocument, ReadAndWritePlan, ReadNote,   WriteNote, ReadAndBuildPage,
                                      Renumber,     WalkTags,         ReadFields, Find,      Replace,
-                                     ReadRegistry, ReadMusic,        CleanNames};
+                                     ReadRegistry, ReadMusic,        CleanNames, Check,     ReadBeginning,
+                                     SearchAll};
 
 /// A text of the size: its start, then the piece again and again, then its end.
 struct Pattern {

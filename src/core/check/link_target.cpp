@@ -1,10 +1,6 @@
 #include "core/check/link_target.h"
 
-#include <algorithm>
-
-#include "core/document/markup.h"
 #include "core/document/page_record.h"
-#include "core/ipod/music_links.h"
 #include "core/text/characters.h"
 #include "core/text/numbers.h"
 
@@ -24,25 +20,19 @@ int NotedPage(std::string_view target) {
   return page;
 }
 
-/// Notes are not published, so they do not count.
-bool NamesMusic(std::string_view record) {
-  return std::any_of(kMusicTags.begin(), kMusicTags.begin() + kPublishedMusicFields,
-                     [&](std::string_view tag) { return !TagContent(record, tag, 1).empty(); });
-}
-
 }  // namespace
 
-LinkTarget TargetOf(const Global& global, std::string_view target) {
+LinkTarget TargetOf(const Global& global, MusicAddresses& music, std::string_view target) {
   if (const int page = NotedPage(target); page > 0)
     return {global.Page(page).empty() ? Kind::EmptyPage : Kind::Page, page};
-  return Value(target) > 0 ? LinkTarget{Kind::NoPage, WholeValue(target)} : MusicTargetOf(global, target);
+  return Value(target) > 0 ? LinkTarget{Kind::NoPage, WholeValue(target)} : MusicTargetOf(music, target);
 }
 
-LinkTarget MusicTargetOf(const Global& global, std::string_view target) {
+LinkTarget MusicTargetOf(MusicAddresses& music, std::string_view target) {
   if (target.size() < 2) return {Kind::NotesMenu, 0};
   const int number = WholeValue(target.substr(1));
   if (number < 0 || number > kLastMusicLink) return {Kind::ImpossibleMusic, number};
-  if (NamesMusic(global.MusicLink(number))) return {Kind::Music, number};
+  if (!music.OfLink(number).IsNotesMenu()) return {Kind::Music, number};
   return {IsMusicTarget(target) ? Kind::EmptyMusic : Kind::NotesMenu, number};
 }
 

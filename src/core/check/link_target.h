@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "core/document/global.h"
+#include "core/ipod/music_addresses.h"
 
 namespace tavrel {
 
@@ -22,10 +23,11 @@ struct LinkTarget {
   int Number = 0;  ///< of the page or the music link
 };
 
-/// `target` is as a link stores it: a page number of three digits or a music link's name.
-LinkTarget TargetOf(const Global& global, std::string_view target);
+/// `target` is as a link stores it: a page number of three digits or a music link's name. `music` are the
+/// document's addresses.
+LinkTarget TargetOf(const Global& global, MusicAddresses& music, std::string_view target);
 
 /// The same for a page's own music, which is a music link whatever it is called.
-LinkTarget MusicTargetOf(const Global& global, std::string_view target);
+LinkTarget MusicTargetOf(MusicAddresses& music, std::string_view target);
 
 }  // namespace tavrel

@@ -12,7 +12,6 @@
 #include "core/document/page_parts.h"
 #include "core/document/page_record.h"
 #include "core/document/spoiling_tags.h"
-#include "core/ipod/note_writer.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -31,8 +30,10 @@ std::string Words(std::string_view words) {
 /// Looks at one page.
 class PageCheck {
  public:
-  PageCheck(const Global& global, int page, const PageParts& parts, const CodePage& code_page)
+  PageCheck(const Global& global, MusicAddresses& music, int page, const PageParts& parts,
+            const CodePage& code_page)
       : global_(global),
+        music_(music),
         page_(page),
         code_page_(code_page),
         parts_(parts),
@@ -112,10 +113,19 @@ class PageCheck {
   /// Words of a link are published as they stand, into a tag of their own.
   void CheckLinkWords(Field where, int link, std::string_view words) {
     if (IsPlain(words)) return;
+    words = words.substr(0, EndOfOwnWords(words));
     CheckContent(where, link, words);
     const std::size_t bracket = words.find('<');
     if (bracket != std::string_view::npos)
       AddAt(where, link, bracket, 1, "An iPod takes the < for the beginning of a tag.");
+  }
+
+  /// Where another link opens within the words of one, the rest are that one's, too. They are looked at once,
+  /// however many links open within one another.
+  static std::size_t EndOfOwnWords(std::string_view words) {
+    constexpr std::string_view kOpening = "<linktext>";
+    const std::size_t opening = words.find(kOpening);
+    return opening == std::string_view::npos ? words.size() : opening + kOpening.size();
   }
 
   void CheckBrackets();
@@ -124,17 +134,12 @@ class PageCheck {
   void CheckTarget(Field where, int row, std::string_view target, const LinkTarget& leads, bool is_published);
   void CheckMusic();
 
-  /// Whether an address of music has one. Most have none because there is none in the music link at all.
-  bool HasQuotationMark(int music_link, std::string_view target) const {
-    return global_.MusicLink(music_link).find("\"") != std::string::npos &&
-           GetMusic(global_, target).find('"') != std::string::npos;
-  }
-
   bool IsUsed(std::size_t link) const {
     return link < published_ || (brackets_.AreLinks && link < brackets_.Links.size());
   }
 
   const Global& global_;
+  MusicAddresses& music_;
   int page_;
   const CodePage& code_page_;
   const PageParts& parts_;
@@ -172,8 +177,10 @@ void PageCheck::CheckInlineLink(std::size_t index) {
   const std::string_view words = TrimBlanks(link.Words);
   const auto has_words = [words](const PageParts::Link& other) { return other.Text == words; };
   if (words.empty() || has_words(parts_.Links[index])) return;
-  const auto other = std::find_if(parts_.Links.begin(), parts_.Links.end(), has_words);
-  if (other == parts_.Links.end()) return;
+  // Those that the editor keeps. To look through any number of links for each bracket could take for ever.
+  const auto end = parts_.Links.begin() + std::min<std::ptrdiff_t>(std::ssize(parts_.Links), kLastLink);
+  const auto other = std::find_if(parts_.Links.begin(), end, has_words);
+  if (other == end) return;
   add(Words(link.Words) + " takes link " + number + ", but link " +
       std::to_string(other - parts_.Links.begin() + 1) + " has these words.");
 }
@@ -187,7 +194,7 @@ void PageCheck::CheckLinks() {
     const PageParts::Link& parts = parts_.Links[link];
     CheckLinkWords(Field::LinkText, row, parts.Text);
     if (parts.Target.empty()) continue;
-    const LinkTarget leads = TargetOf(global_, parts.Target);
+    const LinkTarget leads = TargetOf(global_, music_, parts.Target);
     if (leads.What != Kind::Page) {
       CheckTarget(Field::LinkTarget, row, parts.Target, leads, IsUsed(link));
     } else if (IsUsed(link)) {
@@ -218,7 +225,7 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
     case Kind::Page:
       return;
     case Kind::Music:
-      if (!HasQuotationMark(leads.Number, target)) return;
+      if (!music_.OfLink(leads.Number).HasQuotationMark) return;
       return add("A name in music link " + MusicLinkName(leads.Number) +
                  " holds a quotation mark, at which an iPod ends the link.");
     case Kind::EmptyPage:
@@ -242,14 +249,15 @@ void PageCheck::CheckMusic() {
   if (parts_.MusicLink.empty()) {
     Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.");
   } else {
-    CheckTarget(Field::MusicLink, 0, parts_.MusicLink, MusicTargetOf(global_, parts_.MusicLink), true);
+    CheckTarget(Field::MusicLink, 0, parts_.MusicLink, MusicTargetOf(music_, parts_.MusicLink), true);
   }
 }
 
 }  // namespace
 
-PageReport CheckPage(const Global& global, int page, const PageParts& parts, const CodePage& code_page) {
-  return PageCheck(global, page, parts, code_page).Run();
+PageReport CheckPage(const Global& global, MusicAddresses& music, int page, const PageParts& parts,
+                     const CodePage& code_page) {
+  return PageCheck(global, music, page, parts, code_page).Run();
 }
 
 }  // namespace tavrel

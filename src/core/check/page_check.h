@@ -5,6 +5,7 @@
 #include "core/check/finding.h"
 #include "core/document/global.h"
 #include "core/document/page_parts.h"
+#include "core/ipod/music_addresses.h"
 #include "core/text/code_page.h"
 
 namespace tavrel {
@@ -15,7 +16,9 @@ struct PageReport {
   std::vector<int> LeadsTo;
 };
 
-/// Looks at everything but the length of the page's note. `parts` are the page's.
-PageReport CheckPage(const Global& global, int page, const PageParts& parts, const CodePage& code_page);
+/// Looks at everything but the length of the page's note. `music` are the document's addresses, `parts`
+/// the page's.
+PageReport CheckPage(const Global& global, MusicAddresses& music, int page, const PageParts& parts,
+                     const CodePage& code_page);
 
 }  // namespace tavrel

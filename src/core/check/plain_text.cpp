@@ -16,17 +16,18 @@ bool IsPlainLetter(char c) {
 bool IsPlain(std::string_view text) {
   // Eight bytes at a time. The highest bit of each then says that it is another letter, or was a bracket.
   constexpr std::uint64_t kEach = 0x0101010101010101;
-  std::uint64_t found = 0;
-  if (text.size() < sizeof found) return std::all_of(text.begin(), text.end(), IsPlainLetter);
-  const auto look_at = [&](std::size_t at) {
+  constexpr std::size_t kEight = sizeof kEach;
+  if (text.size() < kEight) return std::all_of(text.begin(), text.end(), IsPlainLetter);
+  const auto are_plain = [text](std::size_t at) {
     std::uint64_t eight = 0;
-    std::memcpy(&eight, text.data() + at, sizeof eight);
+    std::memcpy(&eight, text.data() + at, kEight);
     const std::uint64_t zero_if_bracket = eight ^ (kEach * '<');
-    found |= eight | ((zero_if_bracket - kEach) & ~zero_if_bracket);
+    return ((eight | ((zero_if_bracket - kEach) & ~zero_if_bracket)) & (kEach * 0x80)) == 0;
   };
-  for (std::size_t at = 0; at + sizeof found < text.size(); at += sizeof found) look_at(at);
-  look_at(text.size() - sizeof found);
-  return (found & (kEach * 0x80)) == 0;
+  for (std::size_t at = 0; at + kEight < text.size(); at += kEight) {
+    if (!are_plain(at)) return false;
+  }
+  return are_plain(text.size() - kEight);
 }
 
 }  // namespace tavrel

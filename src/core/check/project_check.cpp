@@ -28,19 +28,19 @@ bool StopsPublishing(const Finding& finding) {
   return finding.StopsPublishing;
 }
 
-bool CanBePublished(const Global& global, int page, const PageParts& parts) {
+bool CanBePublished(MusicAddresses& music, int page, const PageParts& parts) {
   try {
-    NoteLength(global, page, parts, {});
+    NoteLength(music, page, parts, {});
     return true;
   } catch (const RunTimeError&) {
     return false;
   }
 }
 
-void CheckLength(const Global& global, int page, const PageParts& parts, const PublishOptions& options,
+void CheckLength(MusicAddresses& music, int page, const PageParts& parts, const PublishOptions& options,
                  PageReport& report) {
   if (std::any_of(report.Findings.begin(), report.Findings.end(), StopsPublishing)) return;
-  const std::size_t length = NoteLength(global, page, parts, options);
+  const std::size_t length = NoteLength(music, page, parts, options);
   if (length <= kShownBytes) return;
   Add(report.Findings, page, Field::Page,
       "The note is " + Bytes(length - kShownBytes) + " too long. An iPod shows the first 4,096.")
@@ -94,6 +94,7 @@ void ProjectCheck::Renew(const Global& global, const PublishOptions& options) {
 }
 
 void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
+  MusicAddresses music(global);
   for (int page = 1; page <= kLastPage; ++page) {
     const Record& bytes = global.Page(page);
     CheckedPage& checked = At(page);
@@ -101,8 +102,8 @@ void ProjectCheck::CheckPages(const Global& global, const CodePage& code_page) {
     checked = {bytes, {}};
     if (bytes.empty()) continue;
     const PageParts parts = PartsOf(bytes);
-    checked.Report = CheckPage(global, page, parts, code_page);
-    CheckLength(global, page, parts, surroundings_.Options, checked.Report);
+    checked.Report = CheckPage(global, music, page, parts, code_page);
+    CheckLength(music, page, parts, surroundings_.Options, checked.Report);
   }
 }
 
@@ -141,13 +142,14 @@ std::vector<Finding> CheckProject(const Global& global, const CodePage& code_pag
 
 std::vector<Finding> CheckPublishing(const Global& global, const CodePage& code_page, int other_notes) {
   std::vector<Finding> findings;
+  MusicAddresses music(global);
   int notes = other_notes;
   for (int page = 1; page <= kLastPage; ++page) {
     if (global.Page(page).empty()) continue;
     ++notes;
     const PageParts parts = PartsOf(global.Page(page));
-    if (CanBePublished(global, page, parts)) continue;
-    const std::vector<Finding> found = CheckPage(global, page, parts, code_page).Findings;
+    if (CanBePublished(music, page, parts)) continue;
+    const std::vector<Finding> found = CheckPage(global, music, page, parts, code_page).Findings;
     std::copy_if(found.begin(), found.end(), std::back_inserter(findings), StopsPublishing);
   }
   CheckNumberOfNotes(notes, findings);

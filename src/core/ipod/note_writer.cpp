@@ -1,17 +1,16 @@
 #include "core/ipod/note_writer.h"
 
-#include <array>
 #include <set>
 #include <system_error>
+#include <utility>
 
 #include "core/document/brackets.h"
 #include "core/document/markup.h"
 #include "core/document/page_parts.h"
+#include "core/ipod/device_limits.h"
 #include "core/ipod/folder_store.h"
-#include "core/ipod/music_links.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
-#include "core/text/plain_ascii.h"
 #include "core/text/run_time_error.h"
 #include "core/text/text_files.h"
 
@@ -19,8 +18,6 @@ namespace tavrel {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kNotesMenu = "\\";
 
 /// Takes a note's length instead of its bytes.
 class Length {
@@ -37,41 +34,34 @@ class Length {
   std::size_t bytes_ = 0;
 };
 
-/// The record that a reference such as "M7" means.
-const Record& MusicLinkAt(const Global& global, std::string_view reference) {
-  const int number = WholeValue(reference.substr(1));
-  if (number < 0 || number > kLastMusicLink) {
-    throw RunTimeError("The target of a link reads " + Quoted(reference) +
-                       ", but music links are numbered 0 to " + std::to_string(kLastMusicLink) +
-                       ".\nCorrect the target and publish again.");
+/// Takes what a device reads of a note, and one byte more.
+class Beginning {
+ public:
+  // As strings call it.
+  // NOLINTNEXTLINE(readability-identifier-naming)
+  Beginning& append(std::string_view more) {
+    bytes_.append(more.substr(0, kShownBytes + 1 - bytes_.size()));
+    return *this;
   }
-  return global.MusicLink(number);
-}
+  std::string Take() { return std::move(bytes_); }
+
+ private:
+  std::string bytes_;
+};
 
 template <class Note>
-void AppendMusicAddress(Note& note, const Global& global, std::string_view reference) {
-  constexpr std::array<std::string_view, kPublishedMusicFields> kKeys = {
-      "song=", "album=", "composer=", "artist=", "genre=", "playlist="};
-  std::string_view before = "ipod:music?";
-  if (reference.size() >= 2) {
-    const MusicParts parts = MusicPartsOf(MusicLinkAt(global, reference));
-    for (std::size_t field = 0; field < kKeys.size(); ++field) {
-      if (parts[field].empty()) continue;
-      note.append(before).append(kKeys[field]).append(parts[field]);
-      before = "&";
-    }
-  }
-  if (before != "&") note.append(kNotesMenu);
+void AppendAnchor(Note& note, std::string_view address, std::string_view text) {
+  note.append("<a href=\"").append(address).append("\">").append(text).append("</a>");
 }
 
 /// Opens an anchor to a link's target: the note of a page, or music.
 template <class Note>
-void AppendLinkOpening(Note& note, const Global& global, std::string_view target) {
+void AppendLinkOpening(Note& note, MusicAddresses& music, std::string_view target) {
   note.append("<a href=\"");
   if (Value(target) > 0) {
     note.append("z").append(target).append(".txt");
   } else {
-    AppendMusicAddress(note, global, target);
+    note.append(music.Of(target).Bytes);
   }
   note.append("\">");
 }
@@ -82,24 +72,23 @@ void AppendTitleLine(Note& note, int page, std::string_view title) {
 }
 
 template <class Note>
-void AppendMusic(Note& note, const Global& global, const PageParts& parts) {
+void AppendMusic(Note& note, MusicAddresses& music, const PageParts& parts) {
   if (parts.MusicText.empty()) return;
-  note.append("<a href=\"");
-  AppendMusicAddress(note, global, parts.MusicLink);
-  note.append("\">").append(parts.MusicText).append("</a>").append(kLineEnd);
+  AppendAnchor(note, music.Of(parts.MusicLink).Bytes, parts.MusicText);
+  note.append(kLineEnd);
 }
 
 template <class Note>
-void AppendPageLinks(Note& note, const Global& global, const PageParts& parts) {
+void AppendPageLinks(Note& note, MusicAddresses& music, const PageParts& parts) {
   const std::size_t published = parts.PublishedLinks();
   for (std::size_t link = 0; link < published; ++link) {
-    AppendLinkOpening(note, global, parts.Links[link].Target);
+    AppendLinkOpening(note, music, parts.Links[link].Target);
     note.append(parts.Links[link].Text).append("</a>").append(kLineEnd);
   }
 }
 
 template <class Note>
-void AppendText(Note& note, const Global& global, std::string_view text, const PageParts& parts) {
+void AppendText(Note& note, MusicAddresses& music, std::string_view text, const PageParts& parts) {
   BracketWalker brackets(text);
   if (!brackets.AreLinks()) {
     note.append(text);
@@ -110,7 +99,7 @@ void AppendText(Note& note, const Global& global, std::string_view text, const P
   for (std::size_t at = brackets.Next(); at != std::string_view::npos; at = brackets.Next()) {
     note.append(text.substr(copied, at - copied));
     if (text[at] == '<') {
-      AppendLinkOpening(note, global, link < parts.Links.size() ? parts.Links[link].Target : "");
+      AppendLinkOpening(note, music, link < parts.Links.size() ? parts.Links[link].Target : "");
       ++link;
     } else {
       note.append("</a>");
@@ -121,18 +110,19 @@ void AppendText(Note& note, const Global& global, std::string_view text, const P
 }
 
 template <class Note>
-void AppendNote(Note& note, const Global& global, int page, const PageParts& parts,
+void AppendNote(Note& note, MusicAddresses& music, int page, const PageParts& parts,
                 const PublishOptions& options) {
   AppendTitleLine(note, page, parts.Title);
   note.append("<meta name=\"LineWrap\" content=\"false\">").append(kLineEnd);
   if (options.BackgroundMusic) note.append("<meta name=\"NowPlaying\" content=\"false\">").append(kLineEnd);
 
-  AppendMusic(note, global, parts);
-  AppendText(note, global, parts.Text, parts);
+  AppendMusic(note, music, parts);
+  AppendText(note, music, parts.Text, parts);
   note.append(kLineEnd);
-  AppendPageLinks(note, global, parts);
+  AppendPageLinks(note, music, parts);
   if (options.NotesMenuLink) {
-    note.append("<a href=\"").append(kNotesMenu).append("\">Notes menu</a>").append(kLineEnd);
+    AppendAnchor(note, kNotesMenu, "Notes menu");
+    note.append(kLineEnd);
   }
 }
 
@@ -140,14 +130,13 @@ void AppendNote(Note& note, const Global& global, int page, const PageParts& par
 
 std::string GetText(const Global& global, std::string_view text, int page) {
   std::string result;
-  AppendText(result, global, text, PartsOf(global.Page(page)));
+  MusicAddresses music(global);
+  AppendText(result, music, text, PartsOf(global.Page(page)));
   return result;
 }
 
 std::string GetMusic(const Global& global, std::string_view reference) {
-  std::string address;
-  AppendMusicAddress(address, global, reference);
-  return address;
+  return MusicAddresses(global).Of(reference).Bytes;
 }
 
 std::string NoteName(int page) {
@@ -164,14 +153,22 @@ std::string NoteText(const Global& global, int page, const PublishOptions& optio
   std::string note;
   const std::size_t size = global.Page(page).size();
   note.reserve(size + size / 4);
-  AppendNote(note, global, page, PartsOf(global.Page(page)), options);
+  MusicAddresses music(global);
+  AppendNote(note, music, page, PartsOf(global.Page(page)), options);
   return note;
 }
 
-std::size_t NoteLength(const Global& global, int page, const PageParts& parts,
+std::string NoteBeginning(const Global& global, int page, const PublishOptions& options) {
+  Beginning beginning;
+  MusicAddresses music(global);
+  AppendNote(beginning, music, page, PartsOf(global.Page(page)), options);
+  return beginning.Take();
+}
+
+std::size_t NoteLength(MusicAddresses& music, int page, const PageParts& parts,
                        const PublishOptions& options) {
   Length length;
-  AppendNote(length, global, page, parts, options);
+  AppendNote(length, music, page, parts, options);
   return length.Bytes();
 }
 

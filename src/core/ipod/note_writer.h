@@ -7,6 +7,7 @@
 
 #include "core/document/global.h"
 #include "core/document/page_parts.h"
+#include "core/ipod/music_addresses.h"
 #include "core/platform.h"
 
 namespace tavrel {
@@ -23,9 +24,7 @@ struct PublishOptions {
 /// every ">" closes one. Text without "<", or whose first ">" comes before it, is returned unchanged.
 std::string GetText(const Global& global, std::string_view text, int page);
 
-/// The address of a music link on the device, from a reference such as "M7"; "\" (the Notes menu) if the
-/// reference is shorter than two characters or its record is empty. Throws RunTimeError for numbers outside
-/// 0 to 100.
+/// The address of a music link on the device, from a reference such as "M7". See MusicAddresses::Of.
 std::string GetMusic(const Global& global, std::string_view reference);
 
 /// The file name of a page's note: 7 is "z007.txt".
@@ -34,10 +33,14 @@ std::string NoteName(int page);
 /// The first line of a page's note: its title as the device lists it. Page 1 comes first there.
 std::string NoteTitleLine(const Global& global, int page);
 
-/// The bytes of a page's note file.
+/// The bytes of a page's note file. Throws RunTimeError if a link that is published leads to music outside 0
+/// to 100.
 std::string NoteText(const Global& global, int page, const PublishOptions& options);
-/// How many bytes these are. `parts` are the page's.
-std::size_t NoteLength(const Global& global, int page, const PageParts& parts, const PublishOptions& options);
+/// Those of them that a device reads, and one more if there are more. Throws as NoteText does.
+std::string NoteBeginning(const Global& global, int page, const PublishOptions& options);
+/// How many bytes these are. `music` are the document's addresses, `parts` the page's.
+std::size_t NoteLength(MusicAddresses& music, int page, const PageParts& parts,
+                       const PublishOptions& options);
 
 /// How many notes of a folder no page rewrites. An iPod shows them beside those of the pages.
 int OtherNotes(const Global& global, const std::filesystem::path& folder, const CodePage& code_page);

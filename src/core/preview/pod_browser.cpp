@@ -143,7 +143,7 @@ PodBrowser::Screen PodBrowser::NoteOf(const Place& place) const {
   if (document_.Page(place.Page).empty())
     return ScreenMessage{NoteName(place.Page), "The page is empty, so there is no note of it."};
   try {
-    NoteScreen note(ReadNote(NoteText(document_, place.Page, options_)), layout_.Width, layout_.Lines,
+    NoteScreen note(ReadNote(NoteBeginning(document_, place.Page, options_)), layout_.Width, layout_.Lines,
                     layout_.WidthOf);
     note.Return(place.Top, place.CurrentLink);
     return note;

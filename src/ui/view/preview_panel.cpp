@@ -13,11 +13,12 @@
 namespace tavrel {
 namespace {
 
-/// A page's note, or why it has none. What a page keeps for its author alone is not in it.
+/// What a device reads of a page's note, or why it has none. What a page keeps for its author alone is not in
+/// it.
 std::string NoteOf(const Global& document, int page, const PublishOptions& options) {
   if (document.Page(page).empty()) return {};
   try {
-    return NoteText(document, page, options);
+    return NoteBeginning(document, page, options);
   } catch (const RunTimeError& error) {
     return error.what();
   }

@@ -70,6 +70,20 @@ TEST_F(ProjectCheckTest, ABracketOrAnotherLetterIsFoundWhereverItStands) {
   }
 }
 
+TEST_F(ProjectCheckTest, LinksThatOpenWithinOneAnotherAreLookedAtOnceEach) {
+  SetText("", "<linktext>a\x80<linktext>\x80\x80</linktext><linkto>001</linkto>");
+  std::vector<std::string> found;
+  for (const Finding& finding : Findings()) {
+    if (finding.Where == Field::LinkText)
+      found.push_back(std::to_string(finding.Link) + "," + std::to_string(finding.Position) + " " +
+                      finding.Sentence);
+  }
+  EXPECT_EQ(found, (std::vector<std::string>{"1,1 An iPod may not show one of the characters.",
+                                             "1,2 <linktext> cannot stand in a page.",
+                                             "1,2 An iPod takes the < for the beginning of a tag.",
+                                             "2,0 An iPod may not show 2 of the characters."}));
+}
+
 TEST_F(ProjectCheckTest, AQuotationMarkInMusic) {
   global_->MusicLink(5) = "<song>S</song><notes>\"remember\"</notes>";
   SetText("", Link("x", "M5"));

@@ -138,6 +138,14 @@ TEST_F(ProjectCheckTest, WordsInBracketsTakeTheLinksInOrder) {
 TEST_F(ProjectCheckTest, WordsThatTakeAnotherLinkThanTheirOwn) {
   SetText("See <b>.", Link("a", "001") + Link("b", "001"));
   ExpectOne(Field::Text, 0, 4, 3, "<b> takes link 1, but link 2 has these words.");
+
+  // The editor has no row for a fiftieth link.
+  std::string others;
+  while (others.size() < 48 * Link("y", "001").size()) others += Link("y", "001");
+  SetText("See <b>", others + Link("b", "001"));
+  ExpectOne(Field::Text, 0, 4, 3, "<b> takes link 1, but link 49 has these words.");
+  SetText("See <b>", others + Link("y", "001") + Link("b", "001"));
+  ExpectOne(Field::Page, 0, 0, 0, "The page has 50 links. The editor keeps 49 when the page is stored.");
 }
 
 TEST_F(ProjectCheckTest, WordsThatNoLinkHasTakeTheirs) {

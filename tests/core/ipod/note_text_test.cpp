@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
+#include <memory>
 #include <string>
 
 #include "core/document/document_file.h"
 #include "core/ipod/meta_lines.h"
 #include "core/ipod/note_writer.h"
+#include "core/text/run_time_error.h"
 #include "support/fixtures.h"
 
 namespace tavrel::test {
@@ -55,6 +57,44 @@ TEST(NoteText, PutsAHyphenBeforeTheFirstPagesTitleWhateverItIs) {
   EXPECT_EQ(Published("<text>B</text>", 1), "<title>-</title>\r\n" + kMeta + "B\r\n");
   EXPECT_EQ(Published("<title>-Start</title>", 1), "<title>--Start</title>\r\n" + kMeta + "\r\n");
   EXPECT_EQ(Published("<text>B</text>", 10), "<title></title>\r\n" + kMeta + "B\r\n");
+}
+
+/// A note of so many bytes, of which some are of each of its parts.
+std::unique_ptr<Global> DocumentWithNoteOf(std::size_t bytes) {
+  auto document = std::make_unique<Global>();
+  document->MusicLink(1) = "<song>S</song>";
+  const auto page = [](std::size_t words) {
+    return "<title>T</title><text><a> " + std::string(words, 'x') + "</text><link>" + LinkPair("b", "M1") +
+           LinkPair(std::string(words, 'y'), "002") + "</link>";
+  };
+  document->Page(2) = page(1);
+  const std::size_t least = NoteText(*document, 2, kBoth).size();
+  document->Page(2) = page(1 + (bytes - least) / 2);
+  return document;
+}
+
+TEST(NoteBeginning, IsWhatADeviceReadsAndOneByteMore) {
+  for (const std::size_t words : {1000, 4094, 4095, 4096, 4097, 4098, 9000, 100000}) {
+    const auto document = DocumentWithNoteOf(words);
+    for (const PublishOptions& options : {PublishOptions(), kBoth})
+      EXPECT_EQ(NoteBeginning(*document, 2, options), NoteText(*document, 2, options).substr(0, 4097));
+  }
+}
+
+TEST(NoteBeginning, OfWhatCannotBePublishedThereIsNone) {
+  Global document;
+  document.Page(2) = "<text>" + std::string(5000, 'x') + "</text><link>" + LinkPair("b", "M101") + "</link>";
+  EXPECT_THROW(NoteBeginning(document, 2, {}), RunTimeError);
+}
+
+TEST(NoteBeginning, TakesLittleMemoryHoweverLongTheNoteIs) {
+  // The note would have 8,000 times the name of the song: 8 GB.
+  Global document;
+  document.MusicLink(1) = "<song>" + std::string(1'000'000, 's') + "</song>";
+  std::string links;
+  for (int link = 0; link < 8000; ++link) links += LinkPair("b", "M1");
+  document.Page(2) = "<link>" + links + "</link>";
+  EXPECT_EQ(NoteBeginning(document, 2, {}).size(), 4097U);
 }
 
 TEST(NoteText, AlwaysHasALineForTheText) {
