@@ -11,7 +11,7 @@ struct Finding : FieldPart {
   std::string Sentence;  ///< in plain words, with a capital and a full stop
   bool StopsPublishing = false;
   bool CutsNote = false;      ///< an iPod does not show all of the note
-  bool LeadsNowhere = false;  ///< a link that is published has no page behind it
+  bool LeadsNowhere = false;  ///< a link that is published leads to no page and to no music
   bool TooManyNotes = false;  ///< an iPod does not show all notes
 };
 

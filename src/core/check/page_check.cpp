@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "core/check/link_target.h"
 #include "core/check/lost_words.h"
@@ -40,6 +41,7 @@ class PageCheck {
         published_(parts.PublishedLinks()),
         brackets_(BracketsOf(parts.Text)) {
     report_.LeadsTo.reserve(parts.Links.size());
+    if (!parts.AreLinksListed) rows_ = ListedLinks(global.Page(page));
   }
 
   PageReport Run() {
@@ -68,6 +70,22 @@ class PageCheck {
     finding.Link = link;
     finding.Position = position;
     finding.Length = length;
+    if (link > 0 && !parts_.AreLinksListed) MoveToRow(finding);
+  }
+
+  /// Links outside of the list of links are published as well, but the editor has no rows for them.
+  void MoveToRow(FieldPart& part) const {
+    const auto start = [where = part.Where](const PageParts::Link& link) {
+      return (where == Field::LinkText ? link.Text : link.Target).data();
+    };
+    const char* culprit = start(parts_.Links[static_cast<std::size_t>(part.Link) - 1]);
+    const int rows = std::min(kLastLink, static_cast<int>(rows_.size()));
+    for (int row = 1; row <= rows; ++row) {
+      if (culprit == nullptr || start(rows_[static_cast<std::size_t>(row) - 1]) != culprit) continue;
+      part.Link = row;
+      return;
+    }
+    part = {.Page = page_, .Where = Field::Page};
   }
 
   void CheckTitle() {
@@ -81,9 +99,11 @@ class PageCheck {
     if (IsAsWritten(record, parts_)) return;
     for (const LostWords& lost : FindLostWords(record)) {
       const FieldPart& field = lost.Behind;
-      AddAt(field.Where, field.Link, field.Position, 0,
-            lost.Tag.empty() ? "Words that stand in no field are lost."
-                             : "What stands behind " + std::string(lost.Tag) + " is lost.");
+      Finding& finding =
+          Add(field.Where, lost.Tag.empty() ? "Words that stand in no field are lost."
+                                            : "What stands behind " + std::string(lost.Tag) + " is lost.");
+      finding.Link = field.Link;
+      finding.Position = field.Position;
     }
   }
 
@@ -144,6 +164,7 @@ class PageCheck {
   const CodePage& code_page_;
   const PageParts& parts_;
   std::size_t published_;
+  std::vector<PageParts::Link> rows_;  ///< of the editor, if not the links of the record
   Brackets brackets_;
   PageReport report_;
 };
@@ -172,9 +193,12 @@ void PageCheck::CheckInlineLink(std::size_t index) {
   const std::string number = std::to_string(index + 1);
   if (index >= parts_.Links.size() || parts_.Links[index].Target.empty()) {
     add(Words(link.Words) + " takes link " + number + ", which the page does not have.");
+    report_.Findings.back().LeadsNowhere = true;
     return;
   }
   const std::string_view words = TrimBlanks(link.Words);
+  if (link.IsClosed && words.empty())
+    add("Nothing stands between < and >, which take link " + number + ", so nobody sees it.");
   const auto has_words = [words](const PageParts::Link& other) { return other.Text == words; };
   if (words.empty() || has_words(parts_.Links[index])) return;
   // Those that the editor keeps. To look through any number of links for each bracket could take for ever.
@@ -217,17 +241,20 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
   const auto add = [&](std::string sentence) {
     AddAt(where, row, 0, target.size(), std::move(sentence));
     report_.Findings.back().StopsPublishing = leads.What == Kind::ImpossibleMusic && is_published;
-    report_.Findings.back().LeadsNowhere =
-        (leads.What == Kind::EmptyPage || leads.What == Kind::NoPage || leads.What == Kind::NotesMenu) &&
-        is_published;
+    report_.Findings.back().LeadsNowhere = leads.What != Kind::Page && leads.What != Kind::Music &&
+                                           leads.What != Kind::ImpossibleMusic && is_published;
   };
   switch (leads.What) {
     case Kind::Page:
       return;
     case Kind::Music:
-      if (!music_.OfLink(leads.Number).HasQuotationMark) return;
-      return add("A name in music link " + MusicLinkName(leads.Number) +
-                 " holds a quotation mark, at which an iPod ends the link.");
+      if (music_.OfLink(leads.Number).HasQuotationMark)
+        return add("A name in music link " + MusicLinkName(leads.Number) +
+                   " holds a quotation mark, at which an iPod ends the link.");
+      if (music_.OfLink(leads.Number).HasBracket)
+        return add("A name in music link " + MusicLinkName(leads.Number) +
+                   " holds a >, at which an iPod may end the link.");
+      return;
     case Kind::EmptyPage:
       return add("Page " + FormatPage(leads.Number) + " is empty.");
     case Kind::NoPage:
@@ -247,7 +274,7 @@ void PageCheck::CheckMusic() {
   CheckLinkWords(Field::MusicText, 0, parts_.MusicText);
   if (parts_.MusicText.empty()) return;
   if (parts_.MusicLink.empty()) {
-    Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.");
+    Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.").LeadsNowhere = true;
   } else {
     CheckTarget(Field::MusicLink, 0, parts_.MusicLink, MusicTargetOf(music_, parts_.MusicLink), true);
   }

@@ -4,6 +4,7 @@
 #include <array>
 #include <utility>
 
+#include "core/document/markup.h"
 #include "core/text/characters.h"
 
 namespace tavrel {
@@ -169,6 +170,10 @@ std::size_t PageParts::PublishedLinks() const {
 
 PageParts PartsOf(std::string_view record) {
   return PartsReader(record).Run();
+}
+
+std::vector<PageParts::Link> ListedLinks(std::string_view record) {
+  return PartsOf(TagContent(record, "<link>", 1)).Links;
 }
 
 }  // namespace tavrel

@@ -27,4 +27,7 @@ struct PageParts {
 
 PageParts PartsOf(std::string_view record);
 
+/// The links in a record's first list of links, which are those that the editor shows.
+std::vector<PageParts::Link> ListedLinks(std::string_view record);
+
 }  // namespace tavrel

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "core/document/markup.h"
 #include "core/document/page_parts.h"
 
 namespace tavrel {
@@ -19,9 +18,9 @@ std::string OnOneLine(std::string_view text) {
   return line;
 }
 
-/// The rows of the editor: it shows the links in the record's first list of links only.
+/// The rows of the editor.
 std::vector<PageParts::Link> LinksShown(std::string_view record, PageParts& parts) {
-  return parts.AreLinksListed ? std::move(parts.Links) : PartsOf(TagContent(record, "<link>", 1)).Links;
+  return parts.AreLinksListed ? std::move(parts.Links) : ListedLinks(record);
 }
 
 PageParts::Link LinkShown(std::string_view record, int row) {
@@ -66,7 +65,10 @@ void FindAll::SearchField(std::string_view content, Field where, int link, std::
 }
 
 std::string_view FieldContent(const Global& document, const FieldPart& part) {
-  const std::string& record = document.Page(part.Page);
+  return FieldContent(document.Page(part.Page).Bytes(), part);
+}
+
+std::string_view FieldContent(std::string_view record, const FieldPart& part) {
   const PageParts parts = PartsOf(record);
   switch (part.Where) {
     case Field::Title:

@@ -44,6 +44,8 @@ class FindAll {
 
 /// What a field of a page holds, as it is searched.
 std::string_view FieldContent(const Global& document, const FieldPart& part);
+/// The same of a page's record.
+std::string_view FieldContent(std::string_view record, const FieldPart& part);
 
 /// A hit with the words around it, on one line.
 struct HitContext {

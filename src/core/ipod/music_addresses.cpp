@@ -26,6 +26,7 @@ const MusicAddress& MusicAddresses::OfLink(int number) {
   if (address.Bytes.empty()) {
     address.Bytes = AddressOf(MusicPartsOf(document_.MusicLink(number)));
     address.HasQuotationMark = address.Bytes.find('"') != std::string::npos;
+    address.HasBracket = address.Bytes.find('>') != std::string::npos;
   }
   return address;
 }

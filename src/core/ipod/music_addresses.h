@@ -15,6 +15,7 @@ inline constexpr std::string_view kNotesMenu = "\\";
 struct MusicAddress {
   std::string Bytes;              ///< the Notes menu's if the music link names nothing
   bool HasQuotationMark = false;  ///< at which the device ends the address
+  bool HasBracket = false;        ///< a ">", at which it may end the tag around it
 
   bool IsNotesMenu() const { return Bytes == kNotesMenu; }
 };

@@ -93,6 +93,42 @@ TEST_F(ProjectCheckTest, AQuotationMarkInMusic) {
             "A name in music link M5 holds a quotation mark, at which an iPod ends the link.");
 }
 
+TEST_F(ProjectCheckTest, ABracketInMusic) {
+  global_->MusicLink(5) = "<song>A < B</song><notes>></notes>";
+  SetText("", Link("x", "M5"));
+  ExpectNothing();
+  global_->MusicLink(5) = "<song>Kiss > Hug</song>";
+  ExpectOne(Field::LinkTarget, 1, 0, 2,
+            "A name in music link M5 holds a >, at which an iPod may end the link.");
+}
+
+TEST_F(ProjectCheckTest, NothingBetweenBrackets) {
+  SetText("a < b> c", Link("b", "001"));
+  ExpectNothing();
+  for (const std::string empty : {"<>", "<  >"}) {
+    SetText("a " + empty + " b", Link("x", "001"));
+    ExpectOne(Field::Text, 0, 2, empty.size(),
+              "Nothing stands between < and >, which take link 1, so nobody sees it.");
+  }
+}
+
+TEST_F(ProjectCheckTest, WhatIsPublishedAsALinkToTheNotesMenuLeadsNowhere) {
+  const auto dead = [&] {
+    const std::vector<Finding> findings = Findings();
+    return std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.LeadsNowhere; });
+  };
+  SetText("", Link("x", "000") + Link("y", "M7") + Link("z", "007") + Link("ok", "001"));
+  EXPECT_EQ(dead(), 3);
+  SetText("<here> and <there>", Link("here", "001"));
+  EXPECT_EQ(dead(), 1) << "there is no second link";
+  SetPage(1, "<music>Song</music>");
+  EXPECT_EQ(dead(), 1);
+  SetPage(1, "<music>Song</music><music>M7</music>");
+  EXPECT_EQ(dead(), 1);
+  SetText("", Link("", "000") + Link("x", "M7"));
+  EXPECT_EQ(dead(), 0) << "neither is published";
+}
+
 TEST_F(ProjectCheckTest, ATagTypedIntoANote) {
   global_->Page(1) = "<title>T</title><note>a<text>b</note><text>x</text>";
   const std::vector<std::string> sentences = Sentences();

@@ -116,7 +116,7 @@ TEST_F(ProjectCheckTest, LinksThatLeadNowhere) {
                   Link("f", "001"));
   const std::vector<Finding> findings = Findings();
   EXPECT_EQ(std::count_if(findings.begin(), findings.end(), [](const Finding& f) { return f.LeadsNowhere; }),
-            3);
+            4);
 }
 
 TEST_F(ProjectCheckTest, LinksBehindOneWithoutWordsAreDropped) {

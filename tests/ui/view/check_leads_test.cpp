@@ -118,6 +118,16 @@ TEST_F(CheckLeadsTest, ALinkBeyondTheEditorsRowsLeadsToItsPage) {
   }
 }
 
+TEST_F(CheckLeadsTest, LinksOutsideOfTheListOfLinksDoNotShiftItsRows) {
+  OpenWith("\r\n 1 ,<title>T</title><text>see <linkto>5</linkto></text><link>" + LinkRecord("one", "001") +
+           LinkRecord("two", "009") + "</link>\r\n");
+  ASSERT_TRUE(WaitFor([&] { return Findings().model()->rowCount() > 0; }));
+  DoubleClickRowOf(Findings(), RowWith(Findings(), "001 | Link to 2 | Page 009 is empty."));
+  EXPECT_EQ(Where(), "page 1, link 2, Combo1 [009]");
+  DoubleClickRowOf(Findings(), RowWith(Findings(), "001 | Page | There can be no page \"5\"."));
+  EXPECT_EQ(Where(), "page 1, Text1 []");
+}
+
 TEST_F(CheckLeadsTest, AHalfTypedLinkOnTheCulpritsOwnPageStays) {
   OpenWrong();
   const std::string stored = Stored(1);

@@ -62,8 +62,8 @@ TEST_F(PublishCheckTest, TheLineIsHiddenWhenNothingIsWrong) {
 }
 
 TEST_F(PublishCheckTest, WhatIsNeitherCutNorDeadIsNotMentioned) {
-  // No title, a lone bracket, a page that is not reached, empty music.
-  OpenDocument("Doc.dat", "\r\n 1 ,<text>a > b</text><link>" + LinkRecord("x", "M7") +
+  // No title, a lone bracket, empty music that is not published, a page that is not reached.
+  OpenDocument("Doc.dat", "\r\n 1 ,<text>a > b</text><link>" + LinkRecord("", "M7") +
                               "</link>\r\n 2 ,<title>T</title>\r\n");
   EXPECT_EQ(Line(), "");
 }
@@ -113,6 +113,8 @@ TEST_F(PublishCheckTest, LinksThatLeadNowhereAreCounted) {
   OpenDocument("More.dat", "\r\n 1 ,<title>T</title><link>" + LinkRecord("x", "007") +
                                LinkRecord("y", "1000") + LinkRecord("z", "001") + "</link>\r\n");
   EXPECT_EQ(Line(), "2 links lead nowhere; see View > Project check.");
+  OpenDocument("Music.dat", "\r\n 1 ,<title>T</title><link>" + LinkRecord("x", "M7") + "</link>\r\n");
+  EXPECT_EQ(Line(), "1 link leads nowhere; see View > Project check.");
 }
 
 TEST_F(PublishCheckTest, CutNotesAndDeadLinksShareTheLine) {
