@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/document/document_file.h"
+#include "core/editing/find_all.h"
 #include "core/shell/messages.h"
 #include "core/shell/program_folder.h"
 #include "core/shell/settings.h"
@@ -245,12 +246,13 @@ void Main::ShowPart(const FieldPart& part) {
 
 /// To store the page and show it anew would throw half-typed links away.
 void Main::SelectHere(FieldPart part) {
-  const bool is_as_read = PageToStore() != BuildPage(StoredFields(), app_.CodePageInUse());
+  const std::string record = PageToStore();
+  const std::string_view content = FieldContent(record, part);
+  const bool is_as_read = record != BuildPage(StoredFields(), app_.CodePageInUse());
   if (!is_as_read) part.Link = grids_->RowOf(part.Link);
   if (part.Link > 0 && part.Link != app_.State.CurrentLink) MSFlexGrid1_Click(part.Link);
   page_->FocusOn(page_->PlaceOf(part));
-  if (!is_as_read) part.Position += page_->BlanksBefore(part.Where);
-  page_->Select(part);
+  page_->Select(page_->PartInField(part, content));
 }
 
 void Main::TellRecovered(const QString& notice) {

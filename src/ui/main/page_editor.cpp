@@ -91,9 +91,23 @@ Place PageEditor::PlaceOf(const FieldPart& part) const {
   return {part.Page, row, ControlOf(part.Where).objectName().toStdString(), 0, 0, row};
 }
 
-std::size_t PageEditor::BlanksBefore(Field field) const {
-  const std::string bytes = FieldOf(&ControlOf(field))->Bytes();
-  return std::min(bytes.find_first_not_of(' '), bytes.size());
+FieldPart PageEditor::PartInField(FieldPart part, std::string_view content) const {
+  if (part.Where == Field::Page) return part;
+  const std::string shown = FieldOf(&ControlOf(part.Where))->Bytes();
+  const std::string_view words = TrimBlanks(shown);
+  if (part.Where == Field::LinkTarget && words != TrimBlanks(content)) {
+    part.Position = part.Length = 0;
+    return part;
+  }
+  const std::size_t stored_blanks = std::min(content.find_first_not_of(' '), content.size());
+  const std::size_t shown_blanks = std::min(shown.find_first_not_of(' '), shown.size());
+  const std::size_t end = part.Position + part.Length;
+  const auto shifted = [&](std::size_t at) {
+    return std::max(at, stored_blanks) - stored_blanks + shown_blanks;
+  };
+  part.Position = shifted(part.Position);
+  part.Length = shifted(end) - part.Position;
+  return part;
 }
 
 void PageEditor::Select(const FieldPart& part) {

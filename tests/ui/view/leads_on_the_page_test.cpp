@@ -105,6 +105,46 @@ TEST_F(LeadsOnThePageTest, BlanksTypedInFrontDoNotShiftTheSelection) {
   EXPECT_EQ(Title().Bytes(), "   Pear tart") << "the blanks stay until the page is stored";
 }
 
+TEST_F(LeadsOnThePageTest, BlanksTypedIntoAPageThatTheEditorHasNotStoredYetDoNotShiftTheSelection) {
+  // The editor stores the note in front of the text, so storing would write another record than this one.
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title><text>first page of all</text><note>n</note>\r\n");
+  Choose("ViewFindAll");
+  TypeInFront(Body(), "  ");
+  LetPanelsLook();
+  Look("page of");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Text1 [page of]");
+  EXPECT_EQ(Body().textCursor().selectionStart(), 8);
+}
+
+TEST_F(LeadsOnThePageTest, BlanksThatTheGridHasTakenOffDoNotShiftTheSelection) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title><link>" + LinkRecord("  word", "  002") +
+                              LinkRecord("b", "002") + "</link>\r\n");
+  Choose("ViewFindAll");
+  for (int time = 1; time <= 2; ++time) {
+    Look("word");
+    ClickRowOf(Hits(), 0);
+    EXPECT_EQ(Where(), "page 1, link 1, Text5 [word]") << time;
+    Look("002");
+    ClickRowOf(Hits(), 0);
+    EXPECT_EQ(Where(), "page 1, link 1, Combo1 [002]") << time;
+    ClickRow(LinksGrid(), 2);
+    LetPanelsLook();
+  }
+  EXPECT_EQ(LinksGrid().TextMatrix(1, kTextColumn), "word");
+}
+
+TEST_F(LeadsOnThePageTest, OfATargetThatIsTypedWithFewerDigitsAllIsSelected) {
+  OpenOrchard();
+  ClickRow(LinksGrid(), 2);
+  TypeInto(LinkText(), "x");
+  TypeInto(LinkTarget(), "7\n");
+  Look("7");
+  ASSERT_TRUE(WaitForRows(1));
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, link 2, Combo1 [7]");
+}
+
 TEST_F(LeadsOnThePageTest, WordsThatHaveMovedSinceTheLastLookAreNotSelectedByTheirOldPlace) {
   OpenOrchard();
   ClickRow(PagesGrid(), 2);
