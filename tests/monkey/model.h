@@ -47,8 +47,9 @@ class Model {
   void ClickPage(int row);
   void ClickLink(int row);
   void InsertPlan(const Record& record);
-  /// A panel leads to a field of a page, of its links to that one; 0: none.
-  void LeadTo(int page, std::string field, int link);
+  /// A panel leads to a field of a page, of its links to that one; 0: none. `shown`: the page's record as the
+  /// panel had seen it.
+  void LeadTo(int page, std::string field, int link, const std::string& shown);
   /// The editor goes along with the preview.
   void GoAlong(int page);
 
@@ -131,6 +132,7 @@ class Model {
   void SwapLinks(int row, int other);
   void StoreLinks(int row);
   int RowOfLink(int link) const;
+  std::string RecordInPanels(int page) const;
   template <typename Command>
   void RunOnPage(Command command);
 

@@ -287,7 +287,8 @@ void Monkey::FollowPanels() {
     if (event.Window == "PreviewPanel") {
       model_->GoAlong(event.Number);
     } else {
-      model_->LeadTo(event.Number, event.Control, std::stoi(event.Values.at("link")));
+      model_->LeadTo(event.Number, event.Control, std::stoi(event.Values.at("link")),
+                     event.Values.at("record"));
     }
     ++counts_.Led;
   }

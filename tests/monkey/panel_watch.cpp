@@ -15,6 +15,7 @@
 #include "ui/view/check_panel.h"
 #include "ui/view/find_all_panel.h"
 #include "ui/view/hit_model.h"
+#include "ui/view/live_document.h"
 #include "ui/view/preview_panel.h"
 
 namespace tavrel::test {
@@ -85,11 +86,19 @@ void PanelWatch::LookAt(const RowList& list, int row) {
   const QModelIndex context = cell(HitModel::kContextColumn);
   const QString found = context.data().toString().mid(context.data(HitModel::kStartRole).toInt(),
                                                       context.data(HitModel::kLengthRole).toInt());
-  row_ = {.What = Event::Kind::Led,
-          .Window = list.objectName().toStdString(),
-          .Control = ControlNamed(field),
-          .Values = {{"link", link.toStdString()}, {"found", found.toStdString()}},
-          .Number = cell(0).data().toInt()};
+  const int page = cell(0).data().toInt();
+  row_ = {
+      .What = Event::Kind::Led,
+      .Window = list.objectName().toStdString(),
+      .Control = ControlNamed(field),
+      .Values = {{"link", link.toStdString()}, {"found", found.toStdString()}, {"record", RecordOf(page)}},
+      .Number = page};
+}
+
+/// As the panels have seen it last.
+std::string PanelWatch::RecordOf(int page) const {
+  const bool is_page = page >= 1 && page <= kLastPage;
+  return is_page ? parent()->findChild<LiveDocument*>()->Document().Page(page).Bytes() : "";
 }
 
 void PanelWatch::Record(Event event) {

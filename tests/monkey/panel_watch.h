@@ -2,6 +2,8 @@
 
 #include <QObject>
 
+#include <string>
+
 #include "monkey/record.h"
 #include "monkey/screen.h"
 
@@ -25,6 +27,7 @@ class PanelWatch : public QObject {
  private:
   void Watch(RowList& list);
   void LookAt(const RowList& list, int row);
+  std::string RecordOf(int page) const;
   void Record(Event event);
 
   const Screen& screen_;

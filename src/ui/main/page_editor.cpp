@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/editing/shown_part.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "ui_main_window.h"
@@ -91,23 +92,9 @@ Place PageEditor::PlaceOf(const FieldPart& part) const {
   return {part.Page, row, ControlOf(part.Where).objectName().toStdString(), 0, 0, row};
 }
 
-FieldPart PageEditor::PartInField(FieldPart part, std::string_view content) const {
-  if (part.Where == Field::Page) return part;
-  const std::string shown = FieldOf(&ControlOf(part.Where))->Bytes();
-  const std::string_view words = TrimBlanks(shown);
-  if (part.Where == Field::LinkTarget && words != TrimBlanks(content)) {
-    part.Position = part.Length = 0;
-    return part;
-  }
-  const std::size_t stored_blanks = std::min(content.find_first_not_of(' '), content.size());
-  const std::size_t shown_blanks = std::min(shown.find_first_not_of(' '), shown.size());
-  const std::size_t end = part.Position + part.Length;
-  const auto shifted = [&](std::size_t at) {
-    return std::max(at, stored_blanks) - stored_blanks + shown_blanks;
-  };
-  part.Position = shifted(part.Position);
-  part.Length = shifted(end) - part.Position;
-  return part;
+FieldPart PageEditor::PartInField(const FieldPart& part, std::string_view content) const {
+  return part.Where == Field::Page ? part
+                                   : ShownPart(part, content, FieldOf(&ControlOf(part.Where))->Bytes());
 }
 
 void PageEditor::Select(const FieldPart& part) {

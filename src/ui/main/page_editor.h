@@ -46,9 +46,8 @@ class PageEditor : public QObject {
 
   /// The field of a part, with the caret at its beginning.
   Place PlaceOf(const FieldPart& part) const;
-  /// Where a part of what the page's record holds in a field stands in that field: there it may have other
-  /// blanks around it. All of a target that is written otherwise, as "5" is for "005".
-  FieldPart PartInField(FieldPart part, std::string_view content) const;
+  /// Where a part of what the page's record holds in a field stands in the field itself.
+  FieldPart PartInField(const FieldPart& part, std::string_view content) const;
   /// Selects a part of the page that is shown.
   void Select(const FieldPart& part);
 

@@ -39,6 +39,20 @@ FieldPart WithoutWords(const Global& document, FieldPart part) {
   return part;
 }
 
+/// Where a part of the document is by now, as far as that can be told: links may have moved, words may have
+/// gone.
+FieldPart PartNow(const Global& before, const Global& now, FieldPart part) {
+  const std::string_view content = FieldContent(before, part);
+  const bool is_of_link = part.Where == Field::LinkText || part.Where == Field::LinkTarget;
+  if (is_of_link && !content.empty() && FieldContent(now, part) != content) {
+    FieldPart moved = part;
+    for (moved.Link = 1; moved.Link <= kLastLink; ++moved.Link) {
+      if (FieldContent(now, moved) == content) return moved;
+    }
+  }
+  return WordsAt(now, part) == WordsAt(before, part) ? part : WithoutWords(now, part);
+}
+
 }  // namespace
 
 ViewPanels::ViewPanels(App& app, const ViewItems& items, Editor& editor, QMainWindow& window)
@@ -189,8 +203,7 @@ void ViewPanels::GoAlong(int page) {
 void ViewPanels::Lead(FieldPart part) {
   const Global shown = live_.Document();
   live_.Look();
-  const bool is_there = WordsAt(live_.Document(), part) == WordsAt(shown, part);
-  editor_.ShowPart(is_there ? part : WithoutWords(live_.Document(), part));
+  editor_.ShowPart(PartNow(shown, live_.Document(), part));
   if (app_.State.IsDocumentInEditor()) window_.activateWindow();
 }
 

@@ -83,6 +83,28 @@ TEST_F(LeadsOnThePageTest, AHalfTypedLinkBetweenTheRowsDoesNotShiftThem) {
   EXPECT_EQ(Where(), "page 1, link 3, Combo1 [005]");
 }
 
+TEST_F(LeadsOnThePageTest, ALinkThatTheClickItselfHasPutInFrontDoesNotShiftTheRows) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title>\r\n 2 ,<title>U</title>\r\n");
+  Choose("ViewFindAll");
+  ClickRow(LinksGrid(), 2);
+  TypeInto(LinkText(), "gold");
+  TypeInto(LinkTarget(), "2\n");
+  for (const std::string word : {"gold", "002"}) {
+    Look(QString::fromStdString(word));
+    ASSERT_TRUE(WaitForRows(1));
+    ClickRow(LinksGrid(), 1);
+    TypeInto(LinkText(), "first");
+    // The field keeps it to itself until the click takes the focus away.
+    TypeInto(LinkTarget(), "1");
+    LetPanelsLook();
+    ClickRowOf(Hits(), 0);
+    EXPECT_EQ(Where(), word == "gold" ? "page 1, link 2, Text5 [gold]" : "page 1, link 2, Combo1 [2]");
+    ClickRow(LinksGrid(), 1);
+    TypeInto(LinkText(), "");
+    TypeInto(LinkTarget(), "\n");
+  }
+}
+
 TEST_F(LeadsOnThePageTest, BlanksTypedInFrontDoNotShiftTheSelection) {
   OpenOrchard();
   ClickRow(PagesGrid(), 2);
@@ -139,10 +161,24 @@ TEST_F(LeadsOnThePageTest, OfATargetThatIsTypedWithFewerDigitsAllIsSelected) {
   ClickRow(LinksGrid(), 2);
   TypeInto(LinkText(), "x");
   TypeInto(LinkTarget(), "7\n");
-  Look("7");
+  for (const char* word : {"7", "007", "07"}) {
+    Look(word);
+    ASSERT_TRUE(WaitForRows(1));
+    ClickRowOf(Hits(), 0);
+    EXPECT_EQ(Where(), "page 1, link 2, Combo1 [7]") << word;
+  }
+}
+
+TEST_F(LeadsOnThePageTest, WordsBehindATagInAnotherFieldAreSelectedWhereTheyStand) {
+  OpenOrchard();
+  TypeInto(Note(), "<text>");
+  TypeInto(Body(), "an apple");
+  LetPanelsLook();
+  // The record's text now begins at the note's tag.
+  Look("apple");
   ASSERT_TRUE(WaitForRows(1));
   ClickRowOf(Hits(), 0);
-  EXPECT_EQ(Where(), "page 1, link 2, Combo1 [7]");
+  EXPECT_EQ(Where(), "page 1, Text1 [apple]");
 }
 
 TEST_F(LeadsOnThePageTest, WordsThatHaveMovedSinceTheLastLookAreNotSelectedByTheirOldPlace) {

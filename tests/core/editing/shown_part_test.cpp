@@ -1,0 +1,57 @@
+#include "core/editing/shown_part.h"
+
+#include <gtest/gtest.h>
+#include <string>
+
+namespace tavrel::test {
+namespace {
+
+/// The part of `content` in brackets as `shown` holds it, in brackets.
+std::string Shown(const std::string& content, std::string shown, Field where = Field::Text) {
+  const std::size_t start = content.find('[');
+  const std::size_t end = content.find(']');
+  const std::string plain =
+      content.substr(0, start) + content.substr(start + 1, end - start - 1) + content.substr(end + 1);
+  const FieldPart part =
+      ShownPart({.Where = where, .Position = start, .Length = end - start - 1}, plain, shown);
+  return shown.insert(part.Position + part.Length, "]").insert(part.Position, "[");
+}
+
+TEST(ShownPart, IsTheSameInTheSameWords) {
+  EXPECT_EQ(Shown("one [two] three", "one two three"), "one [two] three");
+  EXPECT_EQ(Shown("a [a]", "a a"), "a [a]");
+  EXPECT_EQ(Shown("  a [a] ", "  a a "), "  a [a] ");
+}
+
+TEST(ShownPart, MovesWithTheBlanksInFront) {
+  EXPECT_EQ(Shown("one [two]", "   one two "),
+            "   one [two]"
+            " ");
+  EXPECT_EQ(Shown("  one [two]  ", "one two"), "one [two]");
+  EXPECT_EQ(Shown(" one [two]", "  one two"), "  one [two]");
+}
+
+TEST(ShownPart, LosesTheBlanksThatAreGone) {
+  EXPECT_EQ(Shown("[  on]e", "one"), "[on]e");
+  EXPECT_EQ(Shown(" [ ] one", " one"), " []one");
+}
+
+TEST(ShownPart, OfOtherWordsIsWhereItsWordsStandFirst) {
+  EXPECT_EQ(Shown("</note><text>an [apple]", "an apple"), "an [apple]");
+  EXPECT_EQ(Shown("00[5]", "5", Field::LinkTarget), "[5]");
+}
+
+TEST(ShownPart, OfATargetThatLacksItsWordsIsAll) {
+  const FieldPart part = ShownPart({.Where = Field::LinkTarget, .Position = 0, .Length = 2}, "005", "5");
+  EXPECT_EQ(part.Position, 0U);
+  EXPECT_EQ(part.Length, 0U) << "a line without a length is selected to its end";
+}
+
+TEST(ShownPart, OfOtherWordsThatLackItIsLeftAsItIs) {
+  const FieldPart part = ShownPart({.Where = Field::Text, .Position = 7, .Length = 2}, "0123456ab", "x");
+  EXPECT_EQ(part.Position, 7U);
+  EXPECT_EQ(part.Length, 2U);
+}
+
+}  // namespace
+}  // namespace tavrel::test
