@@ -16,7 +16,7 @@ struct Arguments {
   Task What = Task::Help;
   std::filesystem::path From;  ///< what is read
   std::filesystem::path To;    ///< what is written, if anything is
-  /// As the Publish dialog offers them.
+  /// As the Publish window offers them.
   PublishOptions Options{.NotesMenuLink = false, .BackgroundMusic = true};
   bool Overwrite = false;
 };

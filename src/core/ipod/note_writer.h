@@ -12,7 +12,7 @@
 
 namespace tavrel {
 
-/// The choices of the Publish dialog.
+/// The choices of the Publish window.
 struct PublishOptions {
   bool NotesMenuLink = false;    ///< end every note with a link back to the Notes menu
   bool BackgroundMusic = false;  ///< choosing music does not leave the note

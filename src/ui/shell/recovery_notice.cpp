@@ -45,7 +45,8 @@ QString RecoveryNotice(const FoundAtStart& found) {
   for (const std::string& trouble : found.Troubles) troubles << QString::fromStdString(trouble);
 
   QStringList paragraphs{
-      Paragraph(Translated("What was not saved last time is a project of its own now (File > Open project):"),
+      Paragraph(Translated("What was not saved last time is a project of its own now "
+                           "(File\u00A0>\u00A0Open\u00A0project):"),
                 documents),
       Paragraph(Translated("What was kept is damaged. The program's folder holds it as it is:"), damaged),
       Paragraph(Translated("Something was left from last time that could not be put in order:"), troubles)};

@@ -44,7 +44,8 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->save();
   painter->setClipRect(area);
   painter->setPen(TextColour(cell));
-  layout.draw(painter, QPointF(area.left(), area.center().y() - layout.boundingRect().height() / 2));
+  const int above = (area.height() - static_cast<int>(layout.boundingRect().height())) / 2;
+  layout.draw(painter, QPointF(area.left(), area.top() + above));
   painter->restore();
 }
 

@@ -21,7 +21,7 @@ TEST_F(RecoveryNoticeTest, TheCoverNamesEveryDocumentThatWasBroughtBack) {
   const auto& notice = Find<QLabel>(Window(), "CoverRecovered");
   EXPECT_TRUE(notice.isVisible());
   EXPECT_EQ(notice.text(),
-            "What was not saved last time is a project of its own now (File > Open project):\n"
+            "What was not saved last time is a project of its own now (File\u00A0>\u00A0Open\u00A0project):\n"
             "Guide (recovered)\nTea (recovered)");
 }
 

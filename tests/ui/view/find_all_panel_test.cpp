@@ -49,6 +49,24 @@ TEST_F(FindAllPanelTest, HitsAppearAsOneTypes) {
   EXPECT_TRUE(FindWhat().hasFocus());
 }
 
+TEST_F(FindAllPanelTest, WhatWasFoundStandsAtTheHeightOfTheOtherColumns) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title><text>Text</text>\r\n");
+  Choose("ViewFindAll");
+  ASSERT_THAT(HitsOf("ext"), ElementsAre("001 | Text | Text"));
+  const QImage picture = Hits().viewport()->grab().toImage();
+  const auto top_of_text = [&](int column) {
+    const QRect cell = Hits().visualRect(Hits().model()->index(0, column));
+    for (int y = cell.top(); y <= cell.bottom(); ++y) {
+      for (int x = cell.left(); x < cell.right(); ++x) {
+        if (qGray(picture.pixel(x, y)) < 100) return y;
+      }
+    }
+    return -1;
+  };
+  EXPECT_GE(top_of_text(1), 0);
+  EXPECT_EQ(top_of_text(2), top_of_text(1));
+}
+
 TEST_F(FindAllPanelTest, TargetsAndMusicLinksAreSearched) {
   OpenOrchard();
   EXPECT_THAT(HitsOf("005"), ElementsAre("002 | Link to 1 | 005"));
