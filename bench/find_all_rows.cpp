@@ -157,7 +157,7 @@ Row ListRow(const std::string& work, bool match_case, const Words& words) {
 std::vector<Row> FindAllRows() {
   KeepFreedMemory();
   Searching searching;
-  return {FirstHitsRow("first hits of a frequent text : frame", searching, kFrequent),
+  return {FirstHitsRow("first hits of a frequent text : 60 Hz frame", searching, kFrequent),
           FirstHitsRow("first hit, on the last page : 60 Hz frame", searching, kOnLastPage),
           ListRow("find in all pages, case matched : memmem", true, kAbsentOrOnce),
           ListRow("find in all pages, any case : memmem", false, kAbsentOrOnce),

@@ -125,6 +125,8 @@ std::vector<fs::path> NotesIn(const fs::path& folder, const Platform& platform) 
   std::vector<fs::path> notes;
   for (const FolderFile& note : ListFiles(folder, ".txt", platform.SystemCodePage()))
     notes.push_back(note.Name);
+  if (notes.empty())
+    throw TaskError(MessageAbout(folder, 0, "The folder holds no notes, which are files named *.txt."));
   return notes;
 }
 

@@ -52,6 +52,16 @@ TEST_F(NotesImport, AProjectIsOverwrittenOnlyWhenTold) {
   EXPECT_EQ(folder_.Read("Tour.dat"), "\r\n 1 ,<title>A</title><text> <p> </text><link></link>\r\n");
 }
 
+TEST_F(NotesImport, AFolderWithoutNotesLeavesTheProjectAsItIs) {
+  folder_.Write("notes/readme.md", "x");
+  Run({"import", "notes", "New.dat"});
+  ExpectRefusal("notes: The folder holds no notes, which are files named *.txt.");
+  ExpectNoProject();
+  Run({"import", "--overwrite", "notes", "Tour.dat"});
+  ExpectRefusal("notes: The folder holds no notes, which are files named *.txt.");
+  EXPECT_EQ(folder_.Read("Tour.dat"), kTwoPages);
+}
+
 TEST_F(NotesImport, ABrokenLinkIsToldWithItsLineAndLeavesNoProject) {
   folder_.Write("notes/a.txt", "<title>A</title>\r\none<br>two\r\n<a href=\"a.txt>no end\r\nlast\r\n");
   Run({"import", "notes", "New.dat"});

@@ -32,8 +32,8 @@ const MusicAddress& MusicAddresses::OfLink(int number) {
 }
 
 const MusicAddress& MusicAddresses::Of(std::string_view reference) {
-  static const MusicAddress kMenu = {std::string(kNotesMenu)};
-  if (reference.size() < 2) return kMenu;
+  static const MusicAddress menu = {std::string(kNotesMenu)};
+  if (reference.size() < 2) return menu;
   const int number = WholeValue(reference.substr(1));
   if (number >= 0 && number <= kLastMusicLink) return OfLink(number);
   throw RunTimeError("The target of a link reads " + Quoted(reference) +

@@ -44,8 +44,9 @@ void HitDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->save();
   painter->setClipRect(area);
   painter->setPen(TextColour(cell));
-  const int above = (area.height() - static_cast<int>(layout.boundingRect().height())) / 2;
-  layout.draw(painter, QPointF(area.left(), area.top() + above));
+  const QSize words = layout.boundingRect().size().toSize();
+  const QRect place = QStyle::alignedRect(cell.direction, Qt::AlignLeft | Qt::AlignVCenter, words, area);
+  layout.draw(painter, place.topLeft());
   painter->restore();
 }
 

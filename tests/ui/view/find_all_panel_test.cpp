@@ -4,6 +4,7 @@
 #include <QStatusBar>
 #include <QTest>
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace tavrel::test {
@@ -47,6 +48,23 @@ TEST_F(FindAllPanelTest, HitsAppearAsOneTypes) {
   PressKey(FindWhat(), Qt::Key_Backspace);
   EXPECT_TRUE(WaitForRows(7));
   EXPECT_TRUE(FindWhat().hasFocus());
+}
+
+TEST_F(FindAllPanelTest, WhatWasFoundStandsAtTheRightInAMirroredWindow) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title><text>Text</text>\r\n");
+  Choose("ViewFindAll");
+  Window().setLayoutDirection(Qt::RightToLeft);
+  ASSERT_THAT(HitsOf("ext"), ElementsAre("001 | Text | Text"));
+  const QImage picture = Hits().viewport()->grab().toImage();
+  const QRect cell = Hits().visualRect(Hits().model()->index(0, 2));
+  int first = cell.right();
+  for (int y = cell.top(); y <= cell.bottom(); ++y) {
+    for (int x = cell.left(); x < cell.right(); ++x) {
+      if (qGray(picture.pixel(x, y)) < 100) first = std::min(first, x);
+    }
+  }
+  EXPECT_GT(first, cell.center().x());
+  EXPECT_LT(first, cell.right());
 }
 
 TEST_F(FindAllPanelTest, WhatWasFoundStandsAtTheHeightOfTheOtherColumns) {
