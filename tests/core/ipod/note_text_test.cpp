@@ -74,7 +74,7 @@ std::unique_ptr<Global> DocumentWithNoteOf(std::size_t bytes) {
 }
 
 TEST(NoteBeginning, IsWhatADeviceReadsAndOneByteMore) {
-  for (const std::size_t words : {1000, 4094, 4095, 4096, 4097, 4098, 9000, 100000}) {
+  for (const unsigned words : {1000U, 4094U, 4095U, 4096U, 4097U, 4098U, 9000U, 100000U}) {
     const auto document = DocumentWithNoteOf(words);
     for (const PublishOptions& options : {PublishOptions(), kBoth})
       EXPECT_EQ(NoteBeginning(*document, 2, options), NoteText(*document, 2, options).substr(0, 4097));
