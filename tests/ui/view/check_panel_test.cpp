@@ -1,7 +1,6 @@
 #include "ui/view/check_panel_test.h"
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QStatusBar>
 #include <QTimer>
 
@@ -86,21 +85,16 @@ TEST_F(CheckPanelTest, TheListFollowsTypingInAFieldThatIsNotLeft) {
   ExpectSoon({page}, "1 problem");
 }
 
-TEST_F(CheckPanelTest, ItFollowsWithinHalfASecond) {
-  EXPECT_LE(Find<QTimer>(Window(), "LookTimer").interval(), 250);
+TEST_F(CheckPanelTest, ItFollowsWithTheNextLookWhichComesWithinHalfASecond) {
+  EXPECT_LE(Find<QTimer>(Window(), "LookTimer").interval(), 500);
   OpenWith(Sound());
-  TypeInto(Title(), "");
-  // A machine that does other things at the same time may need a second try.
-  qint64 fastest = 10000;
-  for (int attempt = 0; attempt < 4 && fastest > 500; ++attempt) {
-    QElapsedTimer time;
-    time.start();
-    TypeInto(Title(), attempt % 2 == 0 ? "" : "A");
-    const std::string expected = attempt % 2 == 0 ? "1 problem" : "No problems";
-    ASSERT_TRUE(WaitFor([&] { return Count() == expected && Summary() == expected; }));
-    fastest = std::min(fastest, time.elapsed());
+  for (const char* title : {"", "A"}) {
+    TypeInto(Title(), title);
+    LetPanelsLook();
+    const std::string expected = *title == '\0' ? "1 problem" : "No problems";
+    EXPECT_EQ(Count(), expected);
+    EXPECT_EQ(Summary(), expected);
   }
-  EXPECT_LE(fastest, 500);
 }
 
 TEST_F(CheckPanelTest, CommandsAreFollowedToo) {

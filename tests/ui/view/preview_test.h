@@ -14,8 +14,8 @@
 #include <string>
 #include <variant>
 
-#include "support/window_test.h"
 #include "ui/view/pod_view.h"
+#include "ui/view/view_test.h"
 
 namespace tavrel::test {
 
@@ -68,10 +68,9 @@ inline QRect Around(const QImage& picture, QRgb colour, int first_row) {
 }
 
 /// Looks at the preview, which is open, and uses it.
-class PreviewTest : public WindowTest {
+class PreviewTest : public ViewTest {
  protected:
   static constexpr int kSoon = 5000;  // milliseconds, on a busy computer
-  static constexpr int kALook = 300;  // after which what was typed has been looked at
   static constexpr QRgb kScreenEdge = 0xFF505458;
   static constexpr QRgb kRing = 0xFFDCDFE2;
 

@@ -29,14 +29,14 @@ class WalkedPreviewTest : public PreviewTest {
 TEST_F(WalkedPreviewTest, TypingInThePagesNoteLeavesItWhereItIs) {
   OpenOnPageTwo();
   TypeInto(Note(), "remember the milk");
-  QTest::qWait(kALook);
+  LetPanelsLook();
   EXPECT_EQ(Screen(), kPageTwo);
   PressKey(Device(), Qt::Key_Escape);
   PressKey(Device(), Qt::Key_Escape);
   const std::string menu = "Notes|[-One]|Five|Last|Two";
   ASSERT_EQ(Screen(), menu);
   TypeInto(Note(), "and the bread");
-  QTest::qWait(kALook);
+  LetPanelsLook();
   EXPECT_EQ(Screen(), menu);
   TypeInto(Title(), "Uno");
   EXPECT_TRUE(Comes("-Uno|Alpha\n[Two]\nFive\n")) << Screen();

@@ -81,21 +81,33 @@ std::string ViewTest::SelectedRow(const RowList& list) {
   return selected.size() == 1 ? RowText(list, selected.front().row()) : "";
 }
 
+void ViewTest::LetSearchEnd(const QWidget& panel) {
+  const auto* search = panel.findChild<QTimer*>("SearchTimer");
+  EXPECT_TRUE(search == nullptr || QTest::qWaitFor([&] { return !search->isActive(); }, kPatience));
+}
+
 void ViewTest::ClickRowOf(RowList& list, int row) {
+  LetSearchEnd(*list.parentWidget());
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, MiddleOfRow(list, row));
+  LetSearchEnd(*list.parentWidget());
 }
 
 void ViewTest::DoubleClickRowOf(RowList& list, int row) {
+  LetSearchEnd(*list.parentWidget());
   const QPoint middle = MiddleOfRow(list, row);
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, middle);
+  LetSearchEnd(*list.parentWidget());
   QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, middle);
+  LetSearchEnd(*list.parentWidget());
 }
 
 void ViewTest::PressEnterOnRowOf(RowList& list, int row) {
+  LetSearchEnd(*list.parentWidget());
   list.setFocus();
   PressKey(list, Qt::Key_Home);
   for (int passed = 0; passed < row; ++passed) PressKey(list, Qt::Key_Down);
   PressKey(list, Qt::Key_Return);
+  LetSearchEnd(*list.parentWidget());
 }
 
 bool ViewTest::WaitFor(const std::function<bool()>& is_so) {
@@ -105,6 +117,7 @@ bool ViewTest::WaitFor(const std::function<bool()>& is_so) {
 void ViewTest::LetPanelsLook() {
   QSignalSpy looks(&Find<QTimer>(Window(), "LookTimer"), &QTimer::timeout);
   EXPECT_TRUE(looks.wait(kPatience));
+  LetSearchEnd(Window());
 }
 
 std::string ViewTest::Where() {

@@ -38,6 +38,9 @@ class ViewTest : public WindowTest {
   static int RowWith(const RowList& list, const std::string& text);
   /// The row that people stand on; nothing if there is none.
   static std::string SelectedRow(const RowList& list);
+  /// The search in all pages goes on in slices of time, of which a busy machine needs several.
+  static void LetSearchEnd(const QWidget& panel);
+
   static void ClickRowOf(RowList& list, int row);
   static void DoubleClickRowOf(RowList& list, int row);
   static void PressEnterOnRowOf(RowList& list, int row);
