@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <chrono>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -59,13 +58,11 @@ TEST_F(WineVolumesTest, AreThoseThatTheSystemHas) {
   EXPECT_THAT(NamesOf(System->Volumes()), testing::IsSupersetOf({"C:", "E:", "F:", "Z:"}));
 }
 
-TEST_F(WineVolumesTest, ADriveWithoutADiskIsListedAndNotReadyAtOnce) {
+TEST_F(WineVolumesTest, ADriveWithoutADiskIsListedAndNotReady) {
   const Volume empty{"F:", "F:\\"};
   ASSERT_TRUE(Lists(*System, "F:"));
-  const auto start = std::chrono::steady_clock::now();
   EXPECT_FALSE(System->IsReady(empty));
   EXPECT_EQ(TestPod(*System, empty), std::nullopt);
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
 }
 
 TEST_F(WineVolumesTest, TheOthersAreReady) {

@@ -1,4 +1,5 @@
-#include <QTest>
+#include <QSignalSpy>
+#include <QTimer>
 
 #include "support/window_test.h"
 #include "ui/controls/length_bar.h"
@@ -9,7 +10,8 @@ namespace {
 class PageTest : public WindowTest {
  protected:
   int BarAfterOneTick() {
-    QTest::qWait(1100);
+    QSignalSpy ticks(&Find<QTimer>(Window(), "Timer1"), &QTimer::timeout);
+    EXPECT_TRUE(ticks.wait());
     return Find<LengthBar>(Window(), "LengthBar").Width();
   }
 };
