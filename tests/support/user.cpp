@@ -17,6 +17,8 @@
 namespace tavrel::test {
 namespace {
 
+constexpr int kLoadedPatience = 30'000;  // milliseconds; a long text is laid out slowly under load
+
 /// The menus from the menu bar down to the one that holds the action.
 std::vector<QMenu*> MenusTo(QMainWindow& window, const QAction& action) {
   std::vector<QMenu*> menus;
@@ -121,7 +123,7 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
     QTest::mouseClick(menus[i - 1], Qt::LeftButton, {},
                       menus[i - 1]->actionGeometry(menus[i]->menuAction()).center());
     // A sub-menu opens a moment later.
-    if (!QTest::qWaitFor([&] { return menus[i]->isVisible(); }, 1000))
+    if (!QTest::qWaitFor([&] { return menus[i]->isVisible(); }, kLoadedPatience))
       throw std::runtime_error("the menu of " + name.toStdString() + " does not open");
   }
   QTest::mouseClick(menus.back(), Qt::LeftButton, {}, menus.back()->actionGeometry(&action).center());
@@ -131,7 +133,7 @@ void ChooseMenu(QMainWindow& window, const QString& name) {
 
 void ActivateWindow(QWidget& window) {
   window.activateWindow();
-  if (window.isVisible() && !QTest::qWaitForWindowActive(&window))
+  if (window.isVisible() && !QTest::qWaitForWindowActive(&window, kLoadedPatience))
     throw std::runtime_error("the window is not active");
 }
 
