@@ -65,7 +65,9 @@ class RecordWalk {
     const bool is_link = field == Field::LinkText || field == Field::LinkTarget;
     const bool is_read = field != Field::Page && end != kNotFound && (is_link || count <= 2);
     if (is_read) {
-      last_ = {{.Where = field, .Link = is_link ? count : 0, .Position = end - start}, element.Closing};
+      last_ = {{.Where = field, .Link = is_link ? count : 0, .Position = end - start},
+               record_.substr(start, end - start),
+               element.Closing};
     } else {
       lost_.push_back(last_);
     }

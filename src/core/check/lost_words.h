@@ -11,8 +11,9 @@ namespace tavrel {
 /// Words of a page's record that belong to no field, as when somebody types a field's own closing tag into
 /// it: neither the editor nor publishing reads them.
 struct LostWords {
-  FieldPart Behind;      ///< the end of the field that they follow; the page if they follow none
-  std::string_view Tag;  ///< that ends the field, such as "</title>"; empty if nothing does
+  FieldPart Behind;          ///< the end of the field that they follow; the page if they follow none
+  std::string_view Content;  ///< of that field, in the record
+  std::string_view Tag;      ///< that ends the field, such as "</title>"; empty if nothing does
 };
 
 /// Whether a record holds its parts as the editor writes them, one behind the other, and nothing else. Then

@@ -1,6 +1,7 @@
 #include "core/check/page_check.h"
 
 #include <algorithm>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,7 @@
 #include "core/document/page_parts.h"
 #include "core/document/page_record.h"
 #include "core/document/spoiling_tags.h"
+#include "core/text/characters.h"
 #include "core/text/file_names.h"
 #include "core/text/numbers.h"
 #include "core/text/plain_ascii.h"
@@ -23,6 +25,11 @@ namespace {
 using Kind = LinkTarget::Kind;
 
 constexpr char32_t kLastOfLatin1 = 0xFF;
+
+bool AreBlank(std::string_view words) {
+  const bool begins_blank = words.empty() || static_cast<unsigned char>(words.front()) <= ' ';
+  return begins_blank && words.find_first_not_of(" \r\n") == kNotFound;
+}
 
 std::string Words(std::string_view words) {
   return words.empty() ? "The <" : "<" + PlainAscii(std::string(words)) + ">";
@@ -41,7 +48,12 @@ class PageCheck {
         published_(parts.PublishedLinks()),
         brackets_(BracketsOf(parts.Text)) {
     report_.LeadsTo.reserve(parts.Links.size());
-    if (!parts.AreLinksListed) rows_ = ListedLinks(global.Page(page));
+    rows_ = parts.Links;
+    if (!parts.AreLinksListed) {
+      unlisted_rows_ = ListedLinks(global.Page(page));
+      rows_ = unlisted_rows_;
+    }
+    rows_ = rows_.first(std::min<std::size_t>(rows_.size(), kLastLink));
   }
 
   PageReport Run() {
@@ -70,22 +82,23 @@ class PageCheck {
     finding.Link = link;
     finding.Position = position;
     finding.Length = length;
-    if (link > 0 && !parts_.AreLinksListed) MoveToRow(finding);
+    if (link > 0 && !parts_.AreLinksListed)
+      MoveToRow(finding, parts_.Links[static_cast<std::size_t>(link) - 1]);
   }
 
   /// Links outside of the list of links are published as well, but the editor has no rows for them.
-  void MoveToRow(FieldPart& part) const {
-    const auto start = [where = part.Where](const PageParts::Link& link) {
-      return (where == Field::LinkText ? link.Text : link.Target).data();
+  void MoveToRow(FieldPart& part, const PageParts::Link& culprit) const {
+    const auto is_culprit = [&](const PageParts::Link& row) {
+      const bool is_of_words = part.Where == Field::LinkText || row.Target.data() == nullptr;
+      return is_of_words ? culprit.Text.data() != nullptr && row.Text.data() == culprit.Text.data()
+                         : row.Target.data() == culprit.Target.data();
     };
-    const char* culprit = start(parts_.Links[static_cast<std::size_t>(part.Link) - 1]);
-    const int rows = std::min(kLastLink, static_cast<int>(rows_.size()));
-    for (int row = 1; row <= rows; ++row) {
-      if (culprit == nullptr || start(rows_[static_cast<std::size_t>(row) - 1]) != culprit) continue;
-      part.Link = row;
-      return;
+    const auto row = std::find_if(rows_.begin(), rows_.end(), is_culprit);
+    if (row == rows_.end()) {
+      part = {.Page = page_, .Where = Field::Page};
+    } else {
+      part.Link = static_cast<int>(row - rows_.begin()) + 1;
     }
-    part = {.Page = page_, .Where = Field::Page};
   }
 
   void CheckTitle() {
@@ -102,8 +115,8 @@ class PageCheck {
       Finding& finding =
           Add(field.Where, lost.Tag.empty() ? "Words that stand in no field are lost."
                                             : "What stands behind " + std::string(lost.Tag) + " is lost.");
-      finding.Link = field.Link;
       finding.Position = field.Position;
+      if (field.Link > 0) MoveToRow(finding, {.Text = lost.Content, .Target = lost.Content});
     }
   }
 
@@ -122,7 +135,9 @@ class PageCheck {
   }
 
   void CheckTags(Field where, int link, std::string_view content) {
-    if (content.find('<') == std::string_view::npos) return;
+    constexpr std::size_t kShortestTag = std::string_view("<note>").size();
+    if (content.size() < kShortestTag || content.find('<') == kNotFound) return;
+    content = OwnContent(where, content);
     for (const std::string_view tag : SpoilingTags(where)) {
       const std::size_t position = content.find(tag);
       if (position != std::string_view::npos)
@@ -131,21 +146,25 @@ class PageCheck {
   }
 
   /// Words of a link are published as they stand, into a tag of their own.
-  void CheckLinkWords(Field where, int link, std::string_view words) {
+  void CheckLinkWords(Field where, int link, std::string_view words, bool is_published) {
+    if (is_published && !words.empty() && AreBlank(words))
+      AddAt(where, link, 0, words.size(), "The words are blanks, so nobody sees the link.");
     if (IsPlain(words)) return;
-    words = words.substr(0, EndOfOwnWords(words));
+    words = OwnContent(where, words);
     CheckContent(where, link, words);
     const std::size_t bracket = words.find('<');
     if (bracket != std::string_view::npos)
       AddAt(where, link, bracket, 1, "An iPod takes the < for the beginning of a tag.");
   }
 
-  /// Where another link opens within the words of one, the rest are that one's, too. They are looked at once,
-  /// however many links open within one another.
-  static std::size_t EndOfOwnWords(std::string_view words) {
-    constexpr std::string_view kOpening = "<linktext>";
-    const std::size_t opening = words.find(kOpening);
-    return opening == std::string_view::npos ? words.size() : opening + kOpening.size();
+  /// Where another link's words or target open within those of one, the rest are that one's, too. They are
+  /// looked at once, however many links open within one another.
+  static std::string_view OwnContent(Field where, std::string_view content) {
+    const std::string_view opening = where == Field::LinkText     ? "<linktext>"
+                                     : where == Field::LinkTarget ? "<linkto>"
+                                                                  : std::string_view();
+    const std::size_t other = opening.empty() ? kNotFound : content.find(opening);
+    return other == kNotFound ? content : content.substr(0, other + opening.size());
   }
 
   void CheckBrackets();
@@ -164,7 +183,8 @@ class PageCheck {
   const CodePage& code_page_;
   const PageParts& parts_;
   std::size_t published_;
-  std::vector<PageParts::Link> rows_;  ///< of the editor, if not the links of the record
+  std::vector<PageParts::Link> unlisted_rows_;  ///< the editor's, if they are not the links of the record
+  std::span<const PageParts::Link> rows_;       ///< of the editor
   Brackets brackets_;
   PageReport report_;
 };
@@ -192,15 +212,17 @@ void PageCheck::CheckInlineLink(std::size_t index) {
   if (!link.IsClosed) add("The < has no > behind it.");
   const std::string number = std::to_string(index + 1);
   if (index >= parts_.Links.size() || parts_.Links[index].Target.empty()) {
-    add(Words(link.Words) + " takes link " + number + ", which the page does not have.");
+    const bool is_there = index < parts_.Links.size() && !parts_.Links[index].Text.empty();
+    add(Words(link.Words) + " takes link " + number +
+        (is_there ? ", which has no target." : ", which the page does not have."));
     report_.Findings.back().LeadsNowhere = true;
     return;
   }
   const std::string_view words = TrimBlanks(link.Words);
-  if (link.IsClosed && words.empty())
+  if (link.IsClosed && AreBlank(words))
     add("Nothing stands between < and >, which take link " + number + ", so nobody sees it.");
   const auto has_words = [words](const PageParts::Link& other) { return other.Text == words; };
-  if (words.empty() || has_words(parts_.Links[index])) return;
+  if (AreBlank(words) || has_words(parts_.Links[index])) return;
   // Those that the editor keeps. To look through any number of links for each bracket could take for ever.
   const auto end = parts_.Links.begin() + std::min<std::ptrdiff_t>(std::ssize(parts_.Links), kLastLink);
   const auto other = std::find_if(parts_.Links.begin(), end, has_words);
@@ -216,8 +238,9 @@ void PageCheck::CheckLinks() {
   for (std::size_t link = 0; link < parts_.Links.size(); ++link) {
     const int row = static_cast<int>(link) + 1;
     const PageParts::Link& parts = parts_.Links[link];
-    CheckLinkWords(Field::LinkText, row, parts.Text);
+    CheckLinkWords(Field::LinkText, row, parts.Text, link < published_);
     if (parts.Target.empty()) continue;
+    CheckTags(Field::LinkTarget, row, parts.Target);
     const LinkTarget leads = TargetOf(global_, music_, parts.Target);
     if (leads.What != Kind::Page) {
       CheckTarget(Field::LinkTarget, row, parts.Target, leads, IsUsed(link));
@@ -271,7 +294,7 @@ void PageCheck::CheckTarget(Field where, int row, std::string_view target, const
 }
 
 void PageCheck::CheckMusic() {
-  CheckLinkWords(Field::MusicText, 0, parts_.MusicText);
+  CheckLinkWords(Field::MusicText, 0, parts_.MusicText, true);
   if (parts_.MusicText.empty()) return;
   if (parts_.MusicLink.empty()) {
     Add(Field::MusicLink, "The music has no music link, so it leads to the Notes menu.").LeadsNowhere = true;

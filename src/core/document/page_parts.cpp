@@ -22,6 +22,7 @@ class PartsReader {
       at = BracketFrom(behind_links == at ? PassTag(at) : behind_links);
     }
     for (std::size_t kind = 0; kind < kNames.size(); ++kind) Forget(static_cast<Kind>(kind));
+    while (!parts_.Links.empty() && IsNothing(parts_.Links.back())) parts_.Links.pop_back();
     const auto start = static_cast<std::size_t>(list_.data() == nullptr ? 0 : list_.data() - record_.data());
     parts_.AreLinksListed = parts_.Links.empty() || (list_.data() != nullptr && first_link_ >= start &&
                                                      last_link_ < start + list_.size());
@@ -36,6 +37,7 @@ class PartsReader {
                                                              "linktext>", "linkto>", "link>"};
 
   static std::size_t Index(Kind kind) { return static_cast<std::size_t>(kind); }
+  static bool IsNothing(const PageParts::Link& link) { return link.Text.empty() && link.Target.empty(); }
   static bool IsOfLink(Kind kind) { return kind == Kind::LinkText || kind == Kind::LinkTo; }
 
   static Kind KindOf(std::string_view text) {

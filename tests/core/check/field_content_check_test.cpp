@@ -129,6 +129,44 @@ TEST_F(ProjectCheckTest, WhatIsPublishedAsALinkToTheNotesMenuLeadsNowhere) {
   EXPECT_EQ(dead(), 0) << "neither is published";
 }
 
+TEST_F(ProjectCheckTest, ATagTypedIntoATarget) {
+  global_->MusicLink(1) = "<song>S</song>";
+  SetText("", Link("a", "M1</link>"));
+  ExpectOne(Field::LinkTarget, 1, 2, 7, "</link> cannot stand in a page.");
+  SetText("", Link("a", "M1<linktext>"));
+  ExpectOne(Field::LinkTarget, 1, 2, 10, "<linktext> cannot stand in a page.");
+  SetText("", Link("a", "M1<linkto>"));
+  ExpectOne(Field::LinkTarget, 1, 2, 8, "<linkto> cannot stand in a page.");
+}
+
+TEST_F(ProjectCheckTest, WhatStandsBehindALinksTagInTheMusicsWords) {
+  global_->MusicLink(5) = "<song>S</song>";
+  for (const std::string tag : {"", "<linktext>"}) {
+    SetPage(1, "<music>" + tag + "2 \x80<title></music><music>M5</music>");
+    const std::vector<std::string> sentences = Sentences();
+    const std::vector<std::string> expected = {"An iPod may not show one of the characters.",
+                                               "<title> cannot stand in a page.",
+                                               "An iPod takes the < for the beginning of a tag."};
+    EXPECT_EQ(sentences, expected) << tag;
+  }
+}
+
+TEST_F(ProjectCheckTest, WordsThatNobodySees) {
+  global_->MusicLink(5) = "<song>S</song>";
+  for (const std::string blanks : {" ", "  ", "\r\n", " \r\n "}) {
+    SetText("a <" + blanks + "> b", Link("b", "001"));
+    ExpectOne(Field::Text, 0, 2, 2 + blanks.size(),
+              "Nothing stands between < and >, which take link 1, so nobody sees it.");
+    SetText("", Link("a", "001") + Link(blanks, "001"));
+    ExpectOne(Field::LinkText, 2, 0, blanks.size(), "The words are blanks, so nobody sees the link.");
+    SetPage(1, "<music>" + blanks + "</music><music>M5</music>");
+    ExpectOne(Field::MusicText, 0, 0, blanks.size(), "The words are blanks, so nobody sees the link.");
+  }
+  SetText("", Link("", "001") + Link("  ", "001"));
+  ExpectOne(Field::LinkText, 1, 0, 0,
+            "The link has no words, so it and the link behind it are not in the list below the text.");
+}
+
 TEST_F(ProjectCheckTest, ATagTypedIntoANote) {
   global_->Page(1) = "<title>T</title><note>a<text>b</note><text>x</text>";
   const std::vector<std::string> sentences = Sentences();

@@ -41,6 +41,23 @@ TEST_F(LostWordsCheckTest, WordsInFrontOfAllFieldsOrInAFieldThatComesTwiceOrDoes
   ExpectOne(Field::Title, 0, 1, 0, "What stands behind </title> is lost.");
 }
 
+TEST_F(LostWordsCheckTest, WordsBehindALinkThatTheEditorDoesNotShowLeadToThePage) {
+  SetPage(1, Link("a", "001") + "junk<link>" + Link("b", "001") + "</link>");
+  ExpectOne(Field::Page, 0, 0, 0, "What stands behind </linkto> is lost.");
+  SetPage(1, Link("a", "001") + "<link>" + Link("b", "001") + "junk</link>");
+  ExpectOne(Field::LinkTarget, 1, 3, 0, "What stands behind </linkto> is lost.");
+  SetPage(1, "<link>" + Link("a<linktext>b", "001") + "</link>");
+  const std::size_t without = Findings().size();
+  SetPage(1, "<link>" + Link("a<linktext>b", "001") + Link("c", "001") + "junk</link>");
+  const std::vector<Finding> findings = Findings();
+  ASSERT_GT(findings.size(), without);
+  const auto lost = std::find_if(findings.begin(), findings.end(), [](const Finding& finding) {
+    return finding.Sentence == "What stands behind </linkto> is lost.";
+  });
+  ASSERT_NE(lost, findings.end());
+  EXPECT_EQ(lost->Link, 2) << "the row in which that target stands";
+}
+
 TEST_F(LostWordsCheckTest, BlanksBetweenTheFieldsAreNoWords) {
   global_->Page(1) = " <title>T</title> \r\n <text>a</text>\r\n";
   ExpectNothing();

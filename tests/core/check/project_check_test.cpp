@@ -156,6 +156,10 @@ TEST_F(ProjectCheckTest, WordsThatNoLinkHasTakeTheirs) {
 TEST_F(ProjectCheckTest, WordsForWhichThereIsNoLink) {
   SetText("<a> <b>", Link("a", "001"));
   ExpectOne(Field::Text, 0, 4, 3, "<b> takes link 2, which the page does not have.");
+  SetText("<a> <b>", Link("a", "001") + Link("b", ""));
+  EXPECT_EQ(Sentences(),
+            (std::vector<std::string>{"<b> takes link 2, which has no target.",
+                                      "The link has no target, so it is not in the list below the text."}));
 }
 
 TEST_F(ProjectCheckTest, AnOpeningBracketWithoutAClosingOne) {

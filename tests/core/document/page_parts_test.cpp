@@ -33,8 +33,9 @@ std::string PrintedLinks(const PageParts& parts) {
   return printed;
 }
 
-/// The links one after the other, as GetTag counts them.
+/// The links one after the other, as GetTag counts them, up to the last that has words or a target.
 std::string LinksByTags(const std::string& record) {
+  const std::string nothing = "[|]";
   std::string printed;
   TagWalker texts(record, "<linktext>");
   TagWalker targets(record, "<linkto>");
@@ -44,6 +45,7 @@ std::string LinksByTags(const std::string& record) {
     has_text = texts.Next();
     has_target = targets.Next();
   }
+  while (printed.ends_with(nothing)) printed.resize(printed.size() - nothing.size());
   return printed;
 }
 
