@@ -11,29 +11,47 @@
 namespace tavrel::test {
 namespace {
 
-/// What the links of a record hold in a field, from the first on.
-std::vector<std::string> LinkFields(const std::string& record, const std::string& field) {
-  std::vector<std::string> contents;
-  const std::string links = LiteralGetTag(record, "<link>", 1);
-  for (int link = 1; link <= kLastLink; ++link)
-    contents.push_back(LiteralGetTag(links, field == "Text5" ? "<linktext>" : "<linkto>", link));
-  return contents;
+/// The links of a record, from the first on, as storing writes them.
+std::vector<std::string> LinksOf(const std::string& record) {
+  std::vector<std::string> links;
+  const std::string list = LiteralGetTag(record, "<link>", 1);
+  for (int link = 1; link <= kLastLink; ++link) {
+    const std::string target = Trimmed(LiteralGetTag(list, "<linkto>", link));
+    links.push_back(Trimmed(LiteralGetTag(list, "<linktext>", link)) + "|" +
+                    (target.empty() ? "" : NormaliseTarget(target)));
+  }
+  while (!links.empty() && links.back() == "|") links.pop_back();
+  return links;
 }
 
-/// Where a link is now that was at a place before: the first with the same words if it has others there.
-int LinkNow(const std::vector<std::string>& before, const std::vector<std::string>& now, int link) {
-  if (link > kLastLink) return link;
-  const auto at = static_cast<std::size_t>(link) - 1;
-  if (before[at].empty() || now[at] == before[at]) return link;
-  const auto found = std::find(now.begin(), now.end(), before[at]);
-  return found == now.end() ? link : static_cast<int>(found - now.begin()) + 1;
+/// Where a link is now that was at a place before. Those in front of what has changed stay, those behind it
+/// move together; one in between is the same link as before that comes as often.
+int LinkNow(std::vector<std::string> before, std::vector<std::string> now, int link) {
+  if (link > static_cast<int>(before.size())) return link;
+  int start = 0;
+  while (!before.empty() && !now.empty() && before.front() == now.front()) {
+    if (++start == link) return link;
+    before.erase(before.begin());
+    now.erase(now.begin());
+  }
+  while (!before.empty() && !now.empty() && before.back() == now.back()) {
+    if (start + static_cast<int>(before.size()) == link) return start + static_cast<int>(now.size());
+    before.pop_back();
+    now.pop_back();
+  }
+  const auto at = before.begin() + (link - start - 1);
+  auto left = std::count(before.begin(), at + 1, *at);
+  for (std::size_t i = 0; i < now.size(); ++i) {
+    if (now[i] == *at && --left == 0) return start + static_cast<int>(i) + 1;
+  }
+  return link;
 }
 
 }  // namespace
 
 void Model::LeadTo(int page, std::string field, int link, const std::string& shown) {
   if (!IsShown || page < 1 || page > kLastPage) return;
-  if (link > 0) link = LinkNow(LinkFields(shown, field), LinkFields(RecordInPanels(page), field), link);
+  if (link > 0) link = LinkNow(LinksOf(shown), LinksOf(RecordInPanels(page)), link);
   if (link > kLastLink) {
     // The editor does not show such a link, only its page.
     field = "Text1";

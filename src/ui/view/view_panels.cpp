@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "core/editing/find_all.h"
+#include "core/editing/link_row.h"
 #include "ui/controls/program_control.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/view/check_panel.h"
@@ -41,16 +42,11 @@ FieldPart WithoutWords(const Global& document, FieldPart part) {
 
 /// Where a part of the document is by now, as far as that can be told: links may have moved, words may have
 /// gone.
-FieldPart PartNow(const Global& before, const Global& now, FieldPart part) {
-  const std::string_view content = FieldContent(before, part);
-  const bool is_of_link = part.Where == Field::LinkText || part.Where == Field::LinkTarget;
-  if (is_of_link && !content.empty() && FieldContent(now, part) != content) {
-    FieldPart moved = part;
-    for (moved.Link = 1; moved.Link <= kLastLink; ++moved.Link) {
-      if (FieldContent(now, moved) == content) return moved;
-    }
-  }
-  return WordsAt(now, part) == WordsAt(before, part) ? part : WithoutWords(now, part);
+FieldPart PartNow(const Global& before, const Global& now, const FieldPart& part) {
+  FieldPart moved = part;
+  if (part.Where == Field::LinkText || part.Where == Field::LinkTarget)
+    moved.Link = LinkRowNow(before.Page(part.Page).Bytes(), now.Page(part.Page).Bytes(), part.Link);
+  return WordsAt(now, moved) == WordsAt(before, part) ? moved : WithoutWords(now, moved);
 }
 
 }  // namespace

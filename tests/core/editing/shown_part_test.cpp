@@ -21,6 +21,8 @@ TEST(ShownPart, IsTheSameInTheSameWords) {
   EXPECT_EQ(Shown("one [two] three", "one two three"), "one [two] three");
   EXPECT_EQ(Shown("a [a]", "a a"), "a [a]");
   EXPECT_EQ(Shown("  a [a] ", "  a a "), "  a [a] ");
+  EXPECT_EQ(Shown("[  on]e ", "  one "), "[  on]e ");
+  EXPECT_EQ(Shown("[ ] one ", "  one "), "[ ] one ");
 }
 
 TEST(ShownPart, MovesWithTheBlanksInFront) {
@@ -33,12 +35,40 @@ TEST(ShownPart, MovesWithTheBlanksInFront) {
 
 TEST(ShownPart, LosesTheBlanksThatAreGone) {
   EXPECT_EQ(Shown("[  on]e", "one"), "[on]e");
-  EXPECT_EQ(Shown(" [ ] one", " one"), " []one");
+  EXPECT_EQ(Shown("[   on]e", " one"), "[ on]e");
+  EXPECT_EQ(Shown("on[e  ]", "one"), "on[e]");
+  EXPECT_EQ(Shown("[ ]  one", " one"), "[] one");
+}
+
+TEST(ShownPart, ThatHasGoneSelectsNothingOfALine) {
+  for (const Field line : {Field::Title, Field::LinkText, Field::MusicText})
+    EXPECT_EQ(Shown("[ ] one", "one", line), "one[]") << "a line without a length is selected to its end";
 }
 
 TEST(ShownPart, OfOtherWordsIsWhereItsWordsStandFirst) {
-  EXPECT_EQ(Shown("</note><text>an [apple]", "an apple"), "an [apple]");
+  EXPECT_EQ(Shown("one and an [apple]", "another apple"), "another [apple]");
+}
+
+TEST(ShownPart, IsFoundBehindWhatTheRecordHasInFront) {
+  EXPECT_EQ(Shown("</note><text>an apple and an [apple]", "an apple and an apple"),
+            "an apple and an [apple]");
+  EXPECT_EQ(Shown("</note><text>an [apple] and an apple", " an apple and an apple"),
+            " an [apple] and an apple");
   EXPECT_EQ(Shown("00[5]", "5", Field::LinkTarget), "[5]");
+  EXPECT_EQ(Shown("0[2]2", "22", Field::LinkTarget), "[2]2");
+  EXPECT_EQ(Shown("02[2]", "  22", Field::LinkTarget), "  2[2]");
+  EXPECT_EQ(Shown("00[0]", "0", Field::LinkTarget), "[0]");
+  EXPECT_EQ(Shown("[0]05", "0005", Field::LinkTarget), "0[0]05");
+}
+
+TEST(ShownPart, IsFoundInFrontOfWhatTheRecordLacks) {
+  EXPECT_EQ(Shown("a [a]", "a a</text>a a"), "a [a]</text>a a");
+  EXPECT_EQ(Shown("[a] a", "  a a</text>a a"), "  [a] a</text>a a");
+}
+
+TEST(ShownPart, IsFoundInOtherCapitals) {
+  EXPECT_EQ(Shown("[M7]", "  m7", Field::MusicLink), "  [m7]");
+  EXPECT_EQ(Shown("M[7]7", "m77", Field::MusicLink), "m[7]7");
 }
 
 TEST(ShownPart, OfATargetThatLacksItsWordsIsAll) {
@@ -47,10 +77,12 @@ TEST(ShownPart, OfATargetThatLacksItsWordsIsAll) {
   EXPECT_EQ(part.Length, 0U) << "a line without a length is selected to its end";
 }
 
-TEST(ShownPart, OfOtherWordsThatLackItIsLeftAsItIs) {
-  const FieldPart part = ShownPart({.Where = Field::Text, .Position = 7, .Length = 2}, "0123456ab", "x");
-  EXPECT_EQ(part.Position, 7U);
-  EXPECT_EQ(part.Length, 2U);
+TEST(ShownPart, OfOtherWordsThatLackItSelectsNothing) {
+  for (const Field where : {Field::Text, Field::Title}) {
+    const FieldPart part = ShownPart({.Where = where, .Position = 7, .Length = 2}, "0123456ab", "x");
+    EXPECT_EQ(part.Position, where == Field::Text ? 7U : 1U);
+    EXPECT_EQ(part.Length, 0U);
+  }
 }
 
 }  // namespace

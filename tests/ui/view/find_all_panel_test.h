@@ -57,6 +57,7 @@ class FindAllPanelTest : public ViewTest {
   }
 
   bool WaitForRows(int count) {
+    LetSearchEnd(Window());
     return WaitFor([&] { return Hits().model()->rowCount() == count; });
   }
 };

@@ -2,6 +2,7 @@
 #include <QTimer>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ui/main/page_grids.h"
@@ -17,6 +18,14 @@ class LeadsOnThePageTest : public FindAllPanelTest {
   void TypeHalfALink(int row) {
     ClickRow(LinksGrid(), row);
     TypeInto(LinkText(), "half");
+  }
+
+  void EmptyFirstLink() {
+    ClickRow(LinksGrid(), 1);
+    TypeInto(LinkText(), "");
+    TypeInto(LinkTarget(), "");
+    PressKey(LinkTarget().Field(), Qt::Key_Return);
+    LetPanelsLook();
   }
 
   void ClickHit(const std::string& row) { ClickRowOf(Hits(), RowWith(Hits(), row)); }
@@ -99,9 +108,96 @@ TEST_F(LeadsOnThePageTest, ALinkThatTheClickItselfHasPutInFrontDoesNotShiftTheRo
     LetPanelsLook();
     ClickRowOf(Hits(), 0);
     EXPECT_EQ(Where(), word == "gold" ? "page 1, link 2, Text5 [gold]" : "page 1, link 2, Combo1 [2]");
+    EmptyFirstLink();
+  }
+}
+
+TEST_F(LeadsOnThePageTest, ALinkThatTheClickItselfHasPutInFrontOfOthersThatAreAlikeDoesNotShiftTheRows) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title>\r\n 2 ,<title>U</title>\r\n");
+  Choose("ViewFindAll");
+  const std::vector<std::pair<const char*, const char*>> links = {
+      {"back", "1\n"}, {"gold", "2\n"}, {"back", "2\n"}};
+  for (int row = 2; row <= 4; ++row) {
+    ClickRow(LinksGrid(), row);
+    TypeInto(LinkText(), links[static_cast<std::size_t>(row) - 2].first);
+    TypeInto(LinkTarget(), links[static_cast<std::size_t>(row) - 2].second);
+  }
+  struct Case {
+    const char* Words;
+    int Hit;
+    const char* Place;
+  };
+  for (const Case& hit : {Case{"back", 0, "link 2, Text5 [back]"}, Case{"back", 1, "link 4, Text5 [back]"},
+                          Case{"002", 0, "link 3, Combo1 [2]"}, Case{"002", 1, "link 4, Combo1 [2]"}}) {
+    Look(hit.Words);
+    ASSERT_TRUE(WaitForRows(2));
     ClickRow(LinksGrid(), 1);
-    TypeInto(LinkText(), "");
-    TypeInto(LinkTarget(), "\n");
+    TypeInto(LinkText(), "first");
+    TypeInto(LinkTarget(), "2");
+    LetPanelsLook();
+    ClickRowOf(Hits(), hit.Hit);
+    EXPECT_EQ(Where(), std::string("page 1, ") + hit.Place) << hit.Words << hit.Hit;
+    EmptyFirstLink();
+  }
+}
+
+TEST_F(LeadsOnThePageTest, BlanksThatTheRecordHasInFrontAreSelectedWithTheWords) {
+  OpenWith("\r\n 1 ,<title>  T</title><text>  poem of pear</text>\r\n");
+  Look("  poem");
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Text1 [  poem]");
+  Look(" ");
+  for (const int hit : {0, 1}) {
+    ClickRowOf(Hits(), hit);
+    EXPECT_EQ(Where(), "page 1, Text3 [ ]") << hit;
+    EXPECT_EQ(Title().selectionStart(), hit);
+  }
+}
+
+TEST_F(LeadsOnThePageTest, BlanksThatAreNotShownSelectNothing) {
+  OpenDocument("Doc.dat", "\r\n 1 ,<title>T</title><link>" + LinkRecord("  word", "001") + "</link>\r\n");
+  Choose("ViewFindAll");
+  ClickRow(LinksGrid(), 2);
+  ClickRow(LinksGrid(), 1);
+  ASSERT_EQ(LinkText().Bytes(), "word");
+  Look(" ");
+  ASSERT_TRUE(WaitForRows(2));
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, link 1, Text5 []");
+}
+
+TEST_F(LeadsOnThePageTest, AMusicLinkInSmallLettersBehindBlanksIsSelected) {
+  OpenDocument("Doc.dat", " 7 ,<song>S</song>\r\n\r\n 1 ,<title>T</title>\r\n");
+  Choose("ViewFindAll");
+  TypeInto(MusicText(), "song");
+  TypeInto(MusicLink(), "  m7");
+  Look("M7");
+  ASSERT_TRUE(WaitForRows(1));
+  ClickRowOf(Hits(), 0);
+  EXPECT_EQ(Where(), "page 1, Combo2 [m7]");
+}
+
+TEST_F(LeadsOnThePageTest, EachRowLeadsToItsOwnWordsThoughTheFieldIsWrittenOtherwise) {
+  OpenOrchard();
+  ClickRow(LinksGrid(), 2);
+  TypeInto(LinkText(), "x");
+  TypeInto(LinkTarget(), "22\n");
+  LetPanelsLook();
+  Look("2");
+  ASSERT_EQ(RowsOf(Hits()).at(1), "001 | Link to 2 | 022");
+  for (const int hit : {1, 2}) {
+    ClickRowOf(Hits(), hit);
+    EXPECT_EQ(Where(), "page 1, link 2, Combo1 [2]");
+    EXPECT_EQ(LinkTarget().Field().selectionStart(), hit - 1);
+  }
+  TypeInto(Note(), "<text>");
+  TypeInto(Body(), "an apple and an apple");
+  LetPanelsLook();
+  Look("apple");
+  ASSERT_TRUE(WaitForRows(2));
+  for (const int hit : {0, 1}) {
+    ClickRowOf(Hits(), hit);
+    EXPECT_EQ(Body().textCursor().selectionStart(), hit == 0 ? 3 : 16);
   }
 }
 
