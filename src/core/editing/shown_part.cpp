@@ -47,34 +47,39 @@ FieldPart Moved(FieldPart part, std::ptrdiff_t shift, std::size_t end_of_field) 
   return part;
 }
 
-/// Where the part would be: of a target all, of other lines their end, as no length selects a line from the
-/// position on.
-FieldPart WithoutWords(FieldPart part, std::size_t end_of_field) {
-  if (part.Where == Field::LinkTarget) {
-    part.Position = 0;
-  } else if (part.Where != Field::Text) {
-    part.Position = end_of_field;
-  }
-  part.Length = 0;
+/// In place of a part that is not shown.
+FieldPart Instead(FieldPart part, std::size_t end_of_field) {
+  part = WithoutWords(part, end_of_field);
+  if (part.Where == Field::LinkTarget) part.Position = 0;
   return part;
 }
 
 FieldPart AtFirstOfItsWords(FieldPart part, std::string_view content, std::string_view shown) {
+  if (part.Length == 0) {
+    part.Position = std::min(part.Position, shown.size());
+    return part;
+  }
   const std::string_view words = content.substr(std::min(part.Position, content.size()), part.Length);
   const std::size_t found = shown.find(words);
-  if (found == std::string_view::npos) return WithoutWords(part, shown.size());
+  if (found == std::string_view::npos) return Instead(part, shown.size());
   part.Position = found;
   return part;
 }
 
 }  // namespace
 
+FieldPart WithoutWords(FieldPart part, std::size_t end_of_field) {
+  part.Position = part.Where == Field::Text ? std::min(part.Position, end_of_field) : end_of_field;
+  part.Length = 0;
+  return part;
+}
+
 FieldPart ShownPart(FieldPart part, std::string_view content, std::string_view shown) {
   if (shown == content) return part;
   const std::optional<std::ptrdiff_t> shift = ShiftOfWords(content, shown);
   if (!shift) return AtFirstOfItsWords(part, content, shown);
   const FieldPart moved = Moved(part, *shift, shown.size());
-  return part.Length > 0 && moved.Length == 0 ? WithoutWords(moved, shown.size()) : moved;
+  return part.Length > 0 && moved.Length == 0 ? Instead(moved, shown.size()) : moved;
 }
 
 }  // namespace tavrel

@@ -14,6 +14,7 @@
 
 #include "core/editing/find_all.h"
 #include "core/editing/link_row.h"
+#include "core/editing/shown_part.h"
 #include "ui/controls/program_control.h"
 #include "ui/controls/text_conversion.h"
 #include "ui/view/check_panel.h"
@@ -31,22 +32,14 @@ std::string_view WordsAt(const Global& document, const FieldPart& part) {
   return content.substr(std::min(part.Position, content.size()), part.Length);
 }
 
-/// The part without its words: near where they were, nothing selected.
-FieldPart WithoutWords(const Global& document, FieldPart part) {
-  const std::size_t end = FieldContent(document, part).size();
-  // No length selects a field of one line from the position on.
-  part.Position = part.Where == Field::Text ? std::min(part.Position, end) : end;
-  part.Length = 0;
-  return part;
-}
-
 /// Where a part of the document is by now, as far as that can be told: links may have moved, words may have
 /// gone.
 FieldPart PartNow(const Global& before, const Global& now, const FieldPart& part) {
   FieldPart moved = part;
   if (part.Where == Field::LinkText || part.Where == Field::LinkTarget)
     moved.Link = LinkRowNow(before.Page(part.Page).Bytes(), now.Page(part.Page).Bytes(), part.Link);
-  return WordsAt(now, moved) == WordsAt(before, part) ? moved : WithoutWords(now, moved);
+  const bool is_there = WordsAt(now, moved) == WordsAt(before, part);
+  return is_there ? moved : WithoutWords(moved, FieldContent(now, moved).size());
 }
 
 }  // namespace

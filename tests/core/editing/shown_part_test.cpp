@@ -77,10 +77,28 @@ TEST(ShownPart, OfATargetThatLacksItsWordsIsAll) {
   EXPECT_EQ(part.Length, 0U) << "a line without a length is selected to its end";
 }
 
+TEST(ShownPart, WithoutALengthStaysAllOrNothingInOtherWords) {
+  const FieldPart all = ShownPart({.Where = Field::Title, .Position = 0, .Length = 0}, "before", "x");
+  EXPECT_EQ(all.Position, 0U);
+  const FieldPart nothing = ShownPart({.Where = Field::Title, .Position = 6, .Length = 0}, "before", "x");
+  EXPECT_EQ(nothing.Position, 1U) << "from the beginning on it would be all";
+  EXPECT_EQ(nothing.Length, 0U);
+}
+
+TEST(ShownPart, WithoutWordsSelectsNothing) {
+  const FieldPart in_text = WithoutWords({.Where = Field::Text, .Position = 3, .Length = 2}, 9);
+  EXPECT_EQ(in_text.Position, 3U);
+  EXPECT_EQ(in_text.Length, 0U);
+  EXPECT_EQ(WithoutWords({.Where = Field::Text, .Position = 30, .Length = 2}, 9).Position, 9U);
+  const FieldPart in_line = WithoutWords({.Where = Field::Title, .Position = 3, .Length = 2}, 9);
+  EXPECT_EQ(in_line.Position, 9U) << "a line without a length is selected to its end";
+  EXPECT_EQ(in_line.Length, 0U);
+}
+
 TEST(ShownPart, OfOtherWordsThatLackItSelectsNothing) {
   for (const Field where : {Field::Text, Field::Title}) {
     const FieldPart part = ShownPart({.Where = where, .Position = 7, .Length = 2}, "0123456ab", "x");
-    EXPECT_EQ(part.Position, where == Field::Text ? 7U : 1U);
+    EXPECT_EQ(part.Position, 1U);
     EXPECT_EQ(part.Length, 0U);
   }
 }
